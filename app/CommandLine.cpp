@@ -1,0 +1,135 @@
+#include "app/CommandLine.h"
+
+#include "keys/tonic_names.h"
+
+#include <QCommandLineParser>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+void addOptions(QCommandLineParser& parser)
+{
+    const auto tr = [](const char* text) { return QCoreApplication::translate("CommandLine", text); };
+    parser.setApplicationDescription(tr("Plays any tonic and scale on the white keys of a MIDI keyboard."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions({
+        {"headless", tr("Run without a window.")},
+        {"power", tr("Set the power at start: on or off."), "on|off"},
+        {"tonic", tr("Set the tonic at start: C, C#, D, ... B."), "NAME"},
+        {"scale", tr("Set the scale at start: twelve letters, x for a note of the scale and o for none, the "
+                     "tonic first."),
+         "WORD"},
+        {"in", tr("Open this input port; repeatable. A unique part of the name will do."), "NAME"},
+        {"out", tr("Open this output port; repeatable. A unique part of the name will do."), "NAME"},
+        {"no-virtual", tr("Do not open Sorvane's own virtual ports.")},
+        {"list-ports", tr("Print the MIDI ports of both directions and end.")},
+        {"midi-api", tr("Use this MIDI back end: alsa or jack (also: SORVANE_MIDI_API)."), "alsa|jack"},
+        {"debug", tr("Let the program's debug lines through.")},
+    });
+    parser.addPositionalArgument("qv_simple_logging", tr("Write log lines without time and number."),
+                                 "[qv_simple_logging]");
+}
+
+bool isTonic(const QString& name)
+{
+    return std::find(tonicModifierName.begin(), tonicModifierName.end(), name) != tonicModifierName.end();
+}
+
+QString tonicNames()
+{
+    QStringList names;
+    for (const QString& name : tonicModifierName)
+        names.append(name);
+    return names.join(QLatin1Char(' '));
+}
+
+bool isScaleWord(const QString& word)
+{
+    static const QRegularExpression pattern(QStringLiteral("^x[xo]{11}$"));
+    return pattern.match(word).hasMatch() && word.size() == 12;
+}
+
+/// Fills the full names in; the text says what is wrong with the first name that fits none or several.
+QString resolve(QStringList& wanted, const QStringList& rows, const QString& option)
+{
+    const auto tr = [](const char* text) { return QCoreApplication::translate("CommandLine", text); };
+    for (QString& name : wanted) {
+        if (rows.contains(name))
+            continue;
+        QStringList matches = rows.filter(name);
+        matches.removeDuplicates();
+        if (matches.isEmpty())
+            return tr("%1: there is no port \"%2\" (see --list-ports)").arg(option, name);
+        if (matches.size() > 1)
+            return tr("%1: \"%2\" is a part of several port names: %3")
+                .arg(option, name, matches.join(QStringLiteral(", ")));
+        name = matches.first();
+    }
+    return {};
+}
+
+} // namespace
+
+QString CommandLine::parse(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    if (!parser.parse(arguments))
+        return parser.errorText();
+    help = parser.isSet("help");
+    version = parser.isSet("version");
+    headless = parser.isSet("headless");
+    noVirtual = parser.isSet("no-virtual");
+    listPorts = parser.isSet("list-ports");
+    debug = parser.isSet("debug");
+    inPorts = parser.values("in");
+    outPorts = parser.values("out");
+    tonic = parser.value("tonic");
+    scale = parser.value("scale");
+    const QString api = parser.isSet("midi-api") ? parser.value("midi-api")
+                                                 : qEnvironmentVariable("SORVANE_MIDI_API");
+    return checkWords(parser.positionalArguments()) + checkValues(parser, api);
+}
+
+QString CommandLine::checkWords(const QStringList& words) const
+{
+    for (const QString& word : words)
+        if (word != QLatin1String("qv_simple_logging"))
+            return tr("Unknown word \"%1\".").arg(word);
+    return {};
+}
+
+QString CommandLine::checkValues(const QCommandLineParser& parser, const QString& api)
+{
+    const QString state = parser.value("power");
+    if (parser.isSet("power")) {
+        if (state != QLatin1String("on") && state != QLatin1String("off"))
+            return tr("--power takes on or off, not \"%1\".").arg(state);
+        power = state == QLatin1String("on");
+    }
+    if (parser.isSet("tonic") && !isTonic(tonic))
+        return tr("--tonic takes one of %1, not \"%2\".").arg(tonicNames(), tonic);
+    if (parser.isSet("scale") && !isScaleWord(scale))
+        return tr("--scale takes twelve letters, x or o, the first one x, not \"%1\".").arg(scale);
+    const auto wanted = MidiService::wantedFromName(api);
+    if (!wanted || (parser.isSet("midi-api") && api.isEmpty()))
+        return tr("--midi-api takes alsa or jack, not \"%1\".").arg(api);
+    midiApi = *wanted;
+    return {};
+}
+
+QString CommandLine::resolvePorts(const QStringList& inputs, const QStringList& outputs)
+{
+    const QString error = resolve(inPorts, inputs, QStringLiteral("--in"));
+    return error.isEmpty() ? resolve(outPorts, outputs, QStringLiteral("--out")) : error;
+}
+
+void CommandLine::showHelp()
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    parser.showHelp();
+}

@@ -1,0 +1,166 @@
+// Construction, in its order, and the power.
+
+#include "app/MainWnd.h"
+
+#include "app/MidiService.h"
+#include "app/connecter.h"
+#include "keys/PowerItem.h"
+#include "keys/SwitchItem.h"
+#include "keys/TonicKeyController.h"
+#include "keys/key_roles.h"
+#include "keys/pictures.h"
+#include "library/SettingsStore.h"
+#include "logging/categories.h"
+#include "screen/CenterScreen.h"
+
+#include <QCloseEvent>
+#include <QGraphicsScene>
+
+MainWnd* mainWnd = nullptr;
+QApplication* app = nullptr;
+
+namespace {
+
+const QPointF powerButtonStart(288, 28);
+constexpr int powerPitch = 49;
+constexpr int midiNotes = 128;
+
+} // namespace
+
+// The order matters throughout: builders read what the ones before them made, and items read `mainWnd`.
+MainWnd::MainWnd() : newWindowShortcut(QKeySequence(QStringLiteral("Ctrl+N")), this)
+{
+    mainWnd = this;
+    ui.setupUi(this);
+    setUpWindow();
+    createPowerItem();
+    createDigits();
+    createSceneOut();
+    createSceneIn();
+    createSceneBack();
+    createSceneTonic();
+    createSceneCenter();
+    connecter::setPtr(this);
+    qRegisterMetaType<QList<int>>("IntList");
+    for (int note = 0; note < midiNotes; ++note)
+        inNoteHeld.append(0);
+    connectSignals();
+    midiOutOpen = false;
+    takeItemLists();
+    addTonicDegreeKey();
+    powerItem->listItemsIN = listItemsIN;
+    powerItem->listItemsOUT = listItemsOUT;
+    wireKeys();
+    fillSceneIn();
+    createHeaders();
+    ui.inKeyboardGraphicsView->scene()->addItem(powerItem);
+    powerItem->listItemsTonic = listItemsTonic;
+    fillSceneOut();
+    createAnchorIN();
+    createAnchorOUT();
+    setBackgroundSwitches(false);
+    powerItem->changeScaleByTonic();
+    installFilters();
+    SettingsStore::loadAllSettings();
+    scanMIDIPorts();
+}
+
+MainWnd::~MainWnd() = default;
+
+void MainWnd::setUpWindow()
+{
+    setObjectName(QStringLiteral("mainDialog"));
+    setStyleSheet(QStringLiteral(
+        "QDialog#mainDialog {background-image: url(:/Resources/Background/BG_off.png);background-position: "
+        "bottom left; background-repeat: no-repeat;}QGraphicsView {background: transparent}"));
+    setWindowFlags(Qt::Window);
+}
+
+void MainWnd::createPowerItem()
+{
+    powerItem = new PowerItem;
+    powerItem->setPixmap(pictures::load(QStringLiteral(":/Resources/Power/POWERBUTTONOff.png")));
+    powerItem->setFlag(QGraphicsItem::ItemIsMovable);
+    powerItem->setLastPos(powerButtonStart);
+    key_roles::setSide(powerItem, QStringLiteral("power"));
+    key_roles::setPitch(powerItem, powerPitch);
+    key_roles::setName(powerItem, QStringLiteral("power"));
+    powerItem->setAcceptHoverEvents(true);
+}
+
+void MainWnd::connectSignals()
+{
+    // The mapped notes of a message leave before its forwarded copy would.
+    connect(this, &MainWnd::signalKey, this, &MainWnd::pushKeySlot);
+    connect(this, &MainWnd::signalKey, this, &MainWnd::midiThru);
+    connect(centerScreen->inPortList, &QListWidget::itemSelectionChanged, this,
+            &MainWnd::inPortSelectionChange);
+    connect(centerScreen->outPortList, &QListWidget::itemSelectionChanged, this,
+            &MainWnd::outPortSelectionChange);
+    connect(&midiService(), &MidiService::stopped, this, &MainWnd::midiServiceStopped);
+}
+
+void MainWnd::installFilters()
+{
+    const QObjectList children = QCoreApplication::instance()->children();
+    for (QObject* child : children)
+        child->installEventFilter(this);
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+void MainWnd::setPower(bool on)
+{
+    powerItem->setPixmap(pictures::load(on ? QStringLiteral(":/Resources/Power/POWERBUTTONOn.png")
+                                           : QStringLiteral(":/Resources/Power/POWERBUTTONOff.png")));
+    powerItem->setSwithOn(on);
+    powerItem->changeScaleByTonic();
+    powerItem->setAllBlackBlue(on);
+    setBackgroundSwitches(on);
+}
+
+void MainWnd::switchPower()
+{
+    if (!dialogOpen)
+        setPower(!powerItem->isSwitchOn());
+}
+
+void MainWnd::setBackgroundSwitches(bool on)
+{
+    backgroundOn->setVisible(on);
+    backgroundOff->setVisible(!on);
+    for (const KeyControllerBase* controller : {tonicController, scaleController}) {
+        if (on)
+            controller->switchItem->setStatusCtrl();
+        else
+            controller->switchItem->setStatus(SwitchItem::status_neutral, false);
+    }
+    for (QGraphicsItem* item : qAsConst(selectorItems))
+        item->setVisible(on);
+}
+
+void MainWnd::done(int result)
+{
+    qCDebug(lcApp) << "MainWnd::done" << result;
+    SettingsStore::saveAllSettings();
+    QDialog::done(result);
+}
+
+void MainWnd::accept()
+{
+    qCDebug(lcApp) << "MainWnd::accept";
+    SettingsStore::saveAllSettings();
+    QDialog::accept();
+}
+
+void MainWnd::reject()
+{
+    qCDebug(lcApp) << "MainWnd::reject";
+    SettingsStore::saveAllSettings();
+    QDialog::reject();
+}
+
+void MainWnd::closeEvent(QCloseEvent* event)
+{
+    SettingsStore::saveAllSettings();
+    QDialog::closeEvent(event);
+}

@@ -1,0 +1,214 @@
+#pragma once
+
+#include "keys/FloatingButton.h"
+#include "keys/TonicKeyItem.h"
+#include "ui_SorvaneClass.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QList>
+#include <QMap>
+#include <QShortcut>
+
+#include <RtMidi.h>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+class CenterScreen;
+class DiagramScene;
+class KeyControllerBase;
+class PowerItem;
+class QListWidgetItem;
+class ResizableItem;
+class TonicScene;
+
+/// Frees the ports that a list of slots holds. The lists keep raw pointers because their shape is fixed.
+template <typename Port> class PortKeeper
+{
+public:
+    explicit PortKeeper(QList<Port*>& portSlots) : ports(portSlots) {}
+    ~PortKeeper() { qDeleteAll(ports); }
+    Q_DISABLE_COPY_MOVE(PortKeeper)
+
+private:
+    QList<Port*>& ports;
+};
+
+/// The one window. It owns the scenes, the controllers, the ports and the power button, and its constructor fixes
+/// the order in which the program comes up. Plain public members are the program's state. Main thread only,
+/// except inSigReceived().
+class MainWnd : public QDialog
+{
+    Q_OBJECT
+
+public:
+    MainWnd();
+    ~MainWnd() override;
+
+    // Power and window (MainWnd.cpp)
+    /// Sets the power and everything that follows from it.
+    void setPower(bool on);
+    /// Toggles the power, unless a dialog is open.
+    void switchPower();
+    void setBackgroundSwitches(bool on);
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void createFloatingSwitches() {} ///< empty: there are no floating switches
+    /// Keeps the stacking of the two large hit areas in step with the centre screen.
+    void didCenterSceneChange();
+
+    // Scenes (MainWnd_scenes.cpp, MainWnd_selectors.cpp)
+    /// Makes a key: `note` is its MIDI note number, `pixmap` its bare picture, `position` in scene coordinates.
+    [[nodiscard]] ResizableItem* createResItem(const QString& side, const QString& name, int note,
+                                               const QPixmap& pixmap, QPoint position);
+    [[nodiscard]] TonicKeyItem* createTonicKeyItem(tonic_key_type type, KeyControllerBase* ctrl, int index,
+                                                   const QPixmap& pix, QPointF pos);
+    [[nodiscard]] QPixmap addBlueShine(const QPixmap& pixmap) const;
+    [[nodiscard]] QPixmap addYellowShine(const QPixmap& pixmap) const;
+    [[nodiscard]] QPixmap overlayTwoPixmaps(const QPixmap& base, const QPixmap& overlay,
+                                            const QRect& rectangle) const;
+    /// Numbers the square of a scale degree, 0 to 11, with 1 to 12; ordinal 0 leaves it blank.
+    void showScaleSquare(int degree, int ordinal);
+
+    // MIDI (MainWnd_midi.cpp)
+    /// The key of a note on the input keyboard, or null.
+    [[nodiscard]] ResizableItem* findInNote(int note) const;
+    /// Runs on a MIDI library thread: copies the bytes and emits signalKey(), nothing else.
+    void inSigReceived(double deltaTime, std::vector<unsigned char>* message, void* userData);
+    /// Writes the first three bytes of a message, which must have them, to every open output port.
+    void sendMidiOut(const QList<int>* message);
+    [[nodiscard]] bool checkActiveMidiOut() const;
+
+    // Ports (MainWnd_ports.cpp)
+    void scanMIDIPorts();
+    void inPortChanged(QListWidgetItem* item);
+    void outPortChanged(QListWidgetItem* item);
+    /// What the user reads when a port cannot be opened.
+    [[nodiscard]] static QString portErrorText(const QString& reason);
+
+    // Digits (MainWnd_digits.cpp)
+    enum digit_type { digit_anchor_in = 0, digit_anchor_out = 1, digit_square = 2, digit_bar = 3 };
+    void createDigits();
+    /// The number as a picture, 8 pixels high; at most two digits of it. An unknown type gives a null picture or,
+    /// for two digits and negative numbers, a blank one.
+    [[nodiscard]] QPixmap getDigitalPix(digit_type type, int number) const;
+
+    CenterScreen* centerScreen = nullptr;
+    PowerItem* powerItem = nullptr;
+    bool dialogOpen = false;
+    bool learnTonic = false;   ///< set by nobody yet
+    bool learnScale = false;   ///< set by nobody yet
+    bool learnPending = false; ///< cleared by a key that is pushed in a learn mode
+    QList<QGraphicsItem*> listItemsTonic;
+    KeyControllerBase* tonicController = nullptr;
+    KeyControllerBase* scaleController = nullptr;
+    QList<int> inNoteHeld;       ///< 128 flags by MIDI note number
+    QList<RtMidiIn*> inPorts;    ///< one slot a list row, null while closed
+    QList<RtMidiOut*> outPorts;  ///< one slot a list row, null while closed
+    bool midiOutOpen = false;
+    QList<QGraphicsItem*> listItemsIN;
+    QList<QGraphicsItem*> listItemsOUT;
+    using Digits = QMap<int, QPixmap>;
+    Digits digitsAnchorIn, digitsAnchorOut, digitsBar, digitsSquare;
+    FloatingButton floatingButton;
+    QShortcut newWindowShortcut;
+    Ui_SorvaneClass ui;
+    QGraphicsPixmapItem* backgroundOn = nullptr;
+    QGraphicsPixmapItem* backgroundOff = nullptr;
+
+public slots:
+    void done(int result) override;
+    void accept() override;
+    void reject() override;
+    void openNewWindow() {} ///< empty: kept so that a later window can hang on it
+
+    void pushKeySlot(QList<int> message);
+    void midiThru(QList<int> message);
+    void inPortSelectionChange();
+    void outPortSelectionChange();
+    /// The MIDI service has gone: gives its ports up, so that nothing waits for it.
+    void midiServiceStopped();
+
+    void on_buttonMIDIinOut_clicked(bool checked);
+    void on_scene1Button_clicked();
+    void on_scene2Button_clicked();
+    void on_scene34TopButton_clicked();
+    void on_scene34LeftButton_clicked();
+    void on_scene3RightButton_clicked();
+    void on_scene4RightButton_clicked();
+
+signals:
+    void signalKey(QList<int> message);
+    /// Return, Enter or Escape was pressed anywhere in the program.
+    void specialKeyPressed(int key);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    // The builders, in the order of the constructor.
+    void setUpWindow();
+    void createPowerItem();
+    void createSceneOut();
+    void createSceneIn();
+    void createSceneBack();
+    void createSceneTonic();
+    void createSceneCenter();
+    void connectSignals();
+    void takeItemLists();
+    void addTonicDegreeKey();
+    void wireKeys();
+    void fillSceneIn();
+    void createHeaders() {} ///< the presets are not there yet
+    void fillSceneOut();
+    void createAnchorIN() {}  ///< the anchors are not there yet
+    void createAnchorOUT() {} ///< the anchors are not there yet
+    void installFilters();
+
+    // Window (MainWnd_window.cpp)
+    [[nodiscard]] bool filterKeyPress(QEvent* event);
+    void lowerHitAreas();
+    void backToDefaultScene();
+    void rememberPlaces();
+    void placeChildren();
+
+    // Scenes
+    DiagramScene* createKeyScene(const QString& side, const QRectF& rectangle, QGraphicsView* view);
+    void createRow(tonic_key_type type, KeyControllerBase* ctrl, TonicScene& scene, QPointF origin);
+    [[nodiscard]] QPixmap numberedPlate(int ordinal) const;
+    void createScaleSquares(TonicScene& scene, QPointF origin);
+    void createDisplayParts(TonicScene& scene);
+
+    // MIDI
+    void pressInKey(ResizableItem* key, int velocity);
+
+    // Ports
+    [[nodiscard]] bool applyInRow(int row);
+    [[nodiscard]] bool applyOutRow(int row);
+    void openIn(int row, const QString& name);
+    void openOut(int row, const QString& name);
+    void alertPortError(const RtMidiError& error);
+    void focusInKeyboard();
+
+    /// A child and its x in the form; it moves by `halves` halves of the width beyond the form's own.
+    struct Place
+    {
+        QWidget* child;
+        int formX;
+        int halves;
+    };
+    std::vector<Place> places;
+    QList<QGraphicsItem*> selectorItems; ///< what sleeps with the power off
+    std::array<QGraphicsPixmapItem*, 12> scaleSquares{};
+    std::array<QPixmap, 13> squarePlates; ///< by ordinal; 0 is blank
+    PortKeeper<RtMidiIn> inPortKeeper{inPorts};
+    PortKeeper<RtMidiOut> outPortKeeper{outPorts};
+};
+
+/// The one window: set by its constructor, valid as long as it lives. Main thread only, but for the address that
+/// the MIDI threads hold through `connecter`.
+extern MainWnd* mainWnd;
+/// The application object, set by main().
+extern QApplication* app;

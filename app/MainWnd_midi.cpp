@@ -1,0 +1,108 @@
+// The road of a MIDI message: from the port's thread to the key, and out to every open port.
+
+#include "app/MainWnd.h"
+
+#include "app/MidiService.h"
+#include "keys/PowerItem.h"
+#include "keys/key_roles.h"
+
+namespace {
+
+constexpr int messageSize = 3;
+constexpr int noteOnFirstChannel = 0x90;
+
+bool isNoteMessage(int status)
+{
+    return (status & 0xE0) == 0x80;
+}
+
+bool isNoteOff(int status)
+{
+    return (status & 0xF0) == 0x80;
+}
+
+/// Note-on and note-off of the first channel: what the keys answer to.
+bool isPlayed(int status)
+{
+    return (status | 0x10) == noteOnFirstChannel;
+}
+
+} // namespace
+
+void MainWnd::inSigReceived(double, std::vector<unsigned char>* message, void*)
+{
+    QList<int> list;
+    list.reserve(static_cast<int>(message->size()));
+    for (const unsigned char byte : *message)
+        list.append(byte);
+    emit signalKey(list);
+}
+
+ResizableItem* MainWnd::findInNote(int note) const
+{
+    for (QGraphicsItem* item : listItemsIN)
+        if (key_roles::pitch(item) == note)
+            return dynamic_cast<ResizableItem*>(item);
+    return nullptr;
+}
+
+void MainWnd::pushKeySlot(QList<int> message) // NOLINT(performance-unnecessary-value-param): a queued slot
+{
+    if (message.size() != messageSize)
+        return;
+    const int status = message.at(0), note = message.at(1), velocity = message.at(2);
+    if (!isNoteMessage(status) || note < pitch_mapping::lowestPitch || note >= inNoteHeld.size())
+        return;
+    ResizableItem* key = findInNote(note);
+    if (!key)
+        return;
+    // Kept: only the first channel presses a key, any channel releases it.
+    if (inNoteHeld.at(note) == 0 && velocity != 0 && status == noteOnFirstChannel) {
+        pressInKey(key, velocity);
+        inNoteHeld[note] = 1;
+    } else if (inNoteHeld.at(note) == 1 && (velocity == 0 || isNoteOff(status))) {
+        key_roles::setVelocity(key, 0);
+        key->releaseKey();
+        inNoteHeld[note] = 0;
+    }
+}
+
+void MainWnd::pressInKey(ResizableItem* key, int velocity)
+{
+    const bool powerKey =
+        key_roles::isBlack(key) && key_roles::pitch(key) == key_roles::pitch(powerItem);
+    if (powerKey && !learnTonic && !learnScale) {
+        switchPower();
+        return;
+    }
+    key_roles::setVelocity(key, velocity);
+    key->pushKey();
+    key_roles::setVelocity(key, 0);
+}
+
+void MainWnd::midiThru(QList<int> message) // NOLINT(performance-unnecessary-value-param): a queued slot
+{
+    if (learnTonic || learnScale || message.size() != messageSize || isPlayed(message.at(0)))
+        return;
+    sendMidiOut(&message);
+}
+
+void MainWnd::sendMidiOut(const QList<int>* message)
+{
+    if (learnTonic || learnScale || !midiService().mayWrite())
+        return;
+    const std::vector<unsigned char> bytes{static_cast<unsigned char>(message->at(0)),
+                                           static_cast<unsigned char>(message->at(1)),
+                                           static_cast<unsigned char>(message->at(2))};
+    for (RtMidiOut* port : qAsConst(outPorts))
+        if (port)
+            port->sendMessage(&bytes);
+}
+
+bool MainWnd::checkActiveMidiOut() const
+{
+    for (const RtMidiOut* port : outPorts)
+        if (port)
+            return true;
+    return false;
+}

@@ -1,0 +1,196 @@
+// The two port lists: what is listed, opened, closed and remembered.
+
+#include "app/MainWnd.h"
+
+#include "app/MidiService.h"
+#include "app/connecter.h"
+#include "library/SettingsStore.h"
+#include "logging/categories.h"
+#include "screen/CenterScreen.h"
+
+#include <QThreadPool>
+
+#include <cstdio>
+
+namespace {
+
+const QString virtualIn = QStringLiteral("Sorvane MIDI In");
+const QString virtualOut = QStringLiteral("Sorvane MIDI Out");
+
+bool isRowSelected(const QListWidgetItem* item)
+{
+    return item && item->listWidget() && item->isSelected();
+}
+
+int firstRowNamed(const QListWidget& list, const QString& name)
+{
+    for (int row = 0; row < list.count(); ++row)
+        if (list.item(row)->text() == name)
+            return row;
+    return -1;
+}
+
+template <typename Port> void closeSlot(Port*& port)
+{
+    if (port)
+        port->closePort();
+    delete port;
+    port = nullptr;
+}
+
+/// Closing a port of a dead server takes a second each: nobody on stage waits for that.
+template <typename Port> void giveUp(QList<Port*>& ports)
+{
+    for (Port*& port : ports)
+        if (port) {
+            QThreadPool::globalInstance()->start([dead = port] { delete dead; });
+            port = nullptr;
+        }
+}
+
+} // namespace
+
+QString MainWnd::portErrorText(const QString& reason)
+{
+    return tr("There was an error with selected MIDI port:<br/>%1<br/>Please check if this port is not opened "
+              "in some other software.")
+        .arg(reason);
+}
+
+void MainWnd::alertPortError(const RtMidiError& error)
+{
+    qCWarning(lcApp, "%s", qUtf8Printable(portErrorText(QString::fromStdString(error.getMessage()))));
+}
+
+void MainWnd::focusInKeyboard()
+{
+    ui.inKeyboardGraphicsView->setFocus(Qt::OtherFocusReason);
+}
+
+void MainWnd::scanMIDIPorts()
+{
+    const bool service = midiService().isAvailable();
+    qDeleteAll(inPorts);
+    inPorts.clear();
+    const QStringList inputs = service ? midiService().inputNames() : QStringList();
+    for (const QString& name : inputs) {
+        inPorts.append(nullptr);
+        centerScreen->addInPort(name, SettingsStore::getMidiInPortSelected(name, name == virtualIn));
+    }
+    qDeleteAll(outPorts);
+    outPorts.clear();
+    const QStringList outputs = service ? midiService().outputNames() : QStringList();
+    for (const QString& name : outputs) {
+        outPorts.append(nullptr);
+        centerScreen->addOutPort(name, SettingsStore::getMidiOutPortSelected(name, name == virtualOut));
+    }
+    inPorts.append(nullptr);
+    centerScreen->addInPort(virtualIn, SettingsStore::getMidiInPortSelected(virtualIn, true));
+    outPorts.append(nullptr);
+    centerScreen->addOutPort(virtualOut, SettingsStore::getMidiOutPortSelected(virtualOut, true));
+}
+
+void MainWnd::openIn(int row, const QString& name)
+{
+    auto port = midiService().makeInput();
+    if (name == virtualIn)
+        port->openVirtualPort(name.toStdString());
+    else
+        port->openPort(static_cast<unsigned>(row), "RtMidi Input");
+    port->setCallback(&connecter::mycallback, nullptr);
+    port->ignoreTypes(false, false, false);
+    inPorts[row] = port.release();
+}
+
+void MainWnd::openOut(int row, const QString& name)
+{
+    auto port = midiService().makeOutput();
+    if (name == virtualOut)
+        port->openVirtualPort(name.toStdString());
+    else
+        port->openPort(static_cast<unsigned>(row), "RtMidi Output");
+    outPorts[row] = port.release();
+}
+
+// False if the row's port was open already and stays so. A row that fails stays selected with a null slot, so the
+// next change of the selection tries it again. Without any service there is nothing to try.
+bool MainWnd::applyInRow(int row)
+{
+    const QListWidgetItem* item = centerScreen->inPortList->item(row);
+    const bool selected = isRowSelected(item);
+    if (selected && inPorts.at(row))
+        return false;
+    const QString name = centerScreen->getInPort(row);
+    if (!selected) {
+        closeSlot(inPorts[row]);
+    } else if (midiService().isAvailable()) {
+        try {
+            openIn(row, name);
+        } catch (const RtMidiError& error) {
+            alertPortError(error);
+            inPorts[row] = nullptr;
+        }
+    }
+    SettingsStore::setMidiInPortSelected(name, selected);
+    return true;
+}
+
+bool MainWnd::applyOutRow(int row)
+{
+    const QListWidgetItem* item = centerScreen->outPortList->item(row);
+    const bool selected = isRowSelected(item);
+    if (selected && outPorts.at(row))
+        return false;
+    const QString name = centerScreen->getOutPort(row);
+    if (!selected) {
+        closeSlot(outPorts[row]);
+    } else if (midiService().isAvailable()) {
+        try {
+            openOut(row, name);
+        } catch (const RtMidiError& error) {
+            alertPortError(error);
+            outPorts[row] = nullptr;
+        }
+    }
+    midiOutOpen = checkActiveMidiOut();
+    SettingsStore::setMidiOutPortSelected(name, selected);
+    return true;
+}
+
+void MainWnd::inPortSelectionChange()
+{
+    for (int row = 0; row < inPorts.size(); ++row)
+        static_cast<void>(applyInRow(row));
+    focusInKeyboard();
+}
+
+void MainWnd::outPortSelectionChange()
+{
+    for (int row = 0; row < outPorts.size(); ++row)
+        static_cast<void>(applyOutRow(row));
+    focusInKeyboard();
+}
+
+void MainWnd::inPortChanged(QListWidgetItem* item)
+{
+    const int row = firstRowNamed(*centerScreen->inPortList, item->text());
+    if (row == -1 || applyInRow(row))
+        focusInKeyboard();
+}
+
+void MainWnd::outPortChanged(QListWidgetItem* item)
+{
+    const int row = firstRowNamed(*centerScreen->outPortList, item->text());
+    if (row == -1 || applyOutRow(row))
+        focusInKeyboard();
+}
+
+void MainWnd::midiServiceStopped()
+{
+    std::fprintf(stderr, "sorvane: %s\n",
+                 qUtf8Printable(tr("the MIDI service has stopped; its ports are closed. Start it again and "
+                                   "select the ports anew.")));
+    giveUp(inPorts);
+    giveUp(outPorts);
+    midiOutOpen = checkActiveMidiOut();
+}

@@ -1,0 +1,95 @@
+#include "app/start.h"
+
+#include "app/MainWnd.h"
+#include "keys/PowerItem.h"
+#include "keys/ScaleKeyController.h"
+#include "keys/TonicKeyController.h"
+#include "library/SettingsStore.h"
+
+#include <cstdio>
+
+namespace start {
+namespace {
+
+const QString virtualIn = QStringLiteral("Sorvane MIDI In");
+const QString virtualOut = QStringLiteral("Sorvane MIDI Out");
+
+void print(std::FILE* stream, const QString& line)
+{
+    std::fprintf(stream, "%s\n", qUtf8Printable(line));
+}
+
+void printPorts(const QString& title, const QStringList& names)
+{
+    print(stdout, title);
+    for (const QString& name : names)
+        print(stdout, QStringLiteral("  ") + name);
+}
+
+using Store = void (*)(const QString&, bool);
+
+void markSelected(const QStringList& rows, const QStringList& wanted, Store store)
+{
+    if (wanted.isEmpty())
+        return;
+    for (const QString& row : rows)
+        store(row, wanted.contains(row));
+}
+
+} // namespace
+
+int listPorts()
+{
+    MidiService& service = midiService();
+    print(stdout, QCoreApplication::translate("start", "MIDI back end: %1").arg(service.backEndName()));
+    if (!service.isAvailable()) {
+        reportMissingService();
+        return 1;
+    }
+    printPorts(QCoreApplication::translate("start", "Inputs:"), service.inputNames() << virtualIn);
+    printPorts(QCoreApplication::translate("start", "Outputs:"), service.outputNames() << virtualOut);
+    return 0;
+}
+
+QString selectPorts(CommandLine& wanted)
+{
+    const bool named = !wanted.inPorts.isEmpty() || !wanted.outPorts.isEmpty();
+    const bool listed = named && midiService().isAvailable();
+    const QStringList inputs = listed ? midiService().inputNames() : QStringList();
+    const QStringList outputs = listed ? midiService().outputNames() : QStringList();
+    const QString error = wanted.resolvePorts(inputs + QStringList(virtualIn), outputs + QStringList(virtualOut));
+    if (!error.isEmpty())
+        return error;
+    markSelected(inputs, wanted.inPorts, &SettingsStore::setMidiInPortSelected);
+    markSelected(outputs, wanted.outPorts, &SettingsStore::setMidiOutPortSelected);
+    if (wanted.noVirtual) {
+        SettingsStore::setMidiInPortSelected(virtualIn, false);
+        SettingsStore::setMidiOutPortSelected(virtualOut, false);
+    }
+    return {};
+}
+
+void setSelectors(const CommandLine& wanted, MainWnd& window)
+{
+    if (!wanted.tonic.isEmpty())
+        static_cast<TonicKeyController*>(window.tonicController)->setTonicModifier(wanted.tonic, true, true);
+    if (!wanted.scale.isEmpty())
+        static_cast<ScaleKeyController*>(window.scaleController)->setScaleModifier(wanted.scale, true);
+    // Also without a wish: a remap with the power off leaves the black keys in the colour of presets.
+    window.setPower(wanted.power.value_or(window.powerItem->isSwitchOn()));
+}
+
+void reportMissingService()
+{
+    if (!midiService().isAvailable())
+        print(stderr, QStringLiteral("sorvane: ") + MidiService::missingText());
+}
+
+void stopMidiInput(MainWnd& window)
+{
+    for (RtMidiIn* port : qAsConst(window.inPorts))
+        if (port)
+            port->closePort();
+}
+
+} // namespace start

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "app/CommandLine.h"
+
+class MainWnd;
+
+/// What the command line asks of the program that starts, carried out as the user would do it.
+namespace start {
+
+/// Prints the ports of both directions and the back end. Returns the process's exit status.
+int listPorts();
+
+/// Marks the named port rows as selected, the others as not; the virtual rows unless `--no-virtual` stay.
+/// Call it before the window lists the ports. Returns one line that says which name fails, or "".
+[[nodiscard]] QString selectPorts(CommandLine& wanted);
+
+/// Sets tonic, scale and power through the selectors.
+void setSelectors(const CommandLine& wanted, MainWnd& window);
+
+/// Prints one line on standard error if there is no MIDI service.
+void reportMissingService();
+
+/// Ends the callbacks of the open input ports: the process is about to take the window's world apart.
+void stopMidiInput(MainWnd& window);
+
+} // namespace start

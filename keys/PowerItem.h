@@ -1,0 +1,21 @@
+#pragma once
+
+#include "keys/ResizableItem.h"
+
+/// The power button. It sits over the black key whose pitch its item data holds, 49 at start.
+class PowerItem : public ResizableItem
+{
+public:
+    [[nodiscard]] bool isSwitchOn() const { return switchOn; }
+    /// Stores the state; nothing else follows. Kept: the name is one letter short.
+    void setSwithOn(bool on) { switchOn = on; }
+
+    /// Moves the button, in scene coordinates, and remembers where.
+    void setLastPos(const QPointF& pos);
+    /// Back to the remembered place.
+    void restorePos();
+
+private:
+    QPointF lastPos;
+    bool switchOn = false;
+};
