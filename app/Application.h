@@ -2,7 +2,8 @@
 
 #include <QApplication>
 
-/// The application object. An error that a port raises while a message is sent ends that message, not the program.
+/// The application object. An error that a port raises while a message is sent ends that message, not the
+/// program.
 class Application : public QApplication
 {
     Q_OBJECT

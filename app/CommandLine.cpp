@@ -19,8 +19,9 @@ void addOptions(QCommandLineParser& parser)
         {"headless", tr("Run without a window.")},
         {"power", tr("Set the power at start: on or off."), "on|off"},
         {"tonic", tr("Set the tonic at start: C, C#, D, ... B."), "NAME"},
-        {"scale", tr("Set the scale at start: twelve letters, x for a note of the scale and o for none, the "
-                     "tonic first."),
+        {"scale",
+         tr("Set the scale at start: twelve letters, x for a note of the scale and o for none, the "
+            "tonic first."),
          "WORD"},
         {"in", tr("Open this input port; repeatable. A unique part of the name will do."), "NAME"},
         {"out", tr("Open this output port; repeatable. A unique part of the name will do."), "NAME"},
@@ -89,9 +90,10 @@ QString CommandLine::parse(const QStringList& arguments)
     outPorts = parser.values("out");
     tonic = parser.value("tonic");
     scale = parser.value("scale");
-    const QString api = parser.isSet("midi-api") ? parser.value("midi-api")
-                                                 : qEnvironmentVariable("SORVANE_MIDI_API");
-    return checkWords(parser.positionalArguments()) + checkValues(parser, api);
+    const QString api =
+        parser.isSet("midi-api") ? parser.value("midi-api") : qEnvironmentVariable("SORVANE_MIDI_API");
+    const QString error = checkWords(parser.positionalArguments());
+    return error.isEmpty() ? checkValues(parser, api) : error;
 }
 
 QString CommandLine::checkWords(const QStringList& words) const

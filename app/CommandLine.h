@@ -17,8 +17,8 @@ public:
     /// Returns one line that says what is wrong, or "".
     [[nodiscard]] QString parse(const QStringList& arguments);
 
-    /// Replaces each port name by the full name of the row that it means: the row of exactly that name, else the
-    /// only one that contains it. Returns one line that says which name fails, or "".
+    /// Replaces each port name by the full name of the row that it means: the row of exactly that name, else
+    /// the only one that contains it. Returns one line that says which name fails, or "".
     [[nodiscard]] QString resolvePorts(const QStringList& inputs, const QStringList& outputs);
 
     /// Prints the help text and ends the program. Needs an application object.

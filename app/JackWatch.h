@@ -6,8 +6,8 @@
 
 #include <atomic>
 
-/// A silent client that knows whether the JACK server lives. RtMidi cannot tell: its output waits for ever in a
-/// ring buffer that a dead server no longer drains.
+/// A silent client that knows whether the JACK server lives. RtMidi cannot tell: its output waits for ever in
+/// a ring buffer that a dead server no longer drains.
 class JackWatch : public QObject
 {
     Q_OBJECT
@@ -18,8 +18,8 @@ public:
     ~JackWatch() override;
 
     [[nodiscard]] bool isAlive() const { return alive; }
-    /// Counts one message a port. False if the server is gone, or if it has not run for so many messages that a
-    /// ring buffer might be full.
+    /// Counts one message a port. False if the server is gone, or if it has not run for so many messages that
+    /// a ring buffer might be full.
     [[nodiscard]] bool mayWrite();
 
 signals:

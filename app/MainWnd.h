@@ -25,7 +25,8 @@ class ResizableItem;
 class TonicScene;
 
 /// Frees the ports that a list of slots holds. The lists keep raw pointers because their shape is fixed.
-template <typename Port> class PortKeeper
+template <typename Port>
+class PortKeeper
 {
 public:
     explicit PortKeeper(QList<Port*>& portSlots) : ports(portSlots) {}
@@ -36,9 +37,9 @@ private:
     QList<Port*>& ports;
 };
 
-/// The one window. It owns the scenes, the controllers, the ports and the power button, and its constructor fixes
-/// the order in which the program comes up. Plain public members are the program's state. Main thread only,
-/// except inSigReceived().
+/// The one window. It owns the scenes, the controllers, the ports and the power button, and its constructor
+/// fixes the order in which the program comes up. Plain public members are the program's state. Main thread
+/// only, except inSigReceived().
 class MainWnd : public QDialog
 {
     Q_OBJECT
@@ -59,7 +60,8 @@ public:
     void didCenterSceneChange();
 
     // Scenes (MainWnd_scenes.cpp, MainWnd_selectors.cpp)
-    /// Makes a key: `note` is its MIDI note number, `pixmap` its bare picture, `position` in scene coordinates.
+    /// Makes a key: `note` is its MIDI note number, `pixmap` its bare picture, `position` in scene
+    /// coordinates.
     [[nodiscard]] ResizableItem* createResItem(const QString& side, const QString& name, int note,
                                                const QPixmap& pixmap, QPoint position);
     [[nodiscard]] TonicKeyItem* createTonicKeyItem(tonic_key_type type, KeyControllerBase* ctrl, int index,
@@ -90,8 +92,8 @@ public:
     // Digits (MainWnd_digits.cpp)
     enum digit_type { digit_anchor_in = 0, digit_anchor_out = 1, digit_square = 2, digit_bar = 3 };
     void createDigits();
-    /// The number as a picture, 8 pixels high; at most two digits of it. An unknown type gives a null picture or,
-    /// for two digits and negative numbers, a blank one.
+    /// The number as a picture, 8 pixels high; at most two digits of it. An unknown type gives a null picture
+    /// or, for two digits and negative numbers, a blank one.
     [[nodiscard]] QPixmap getDigitalPix(digit_type type, int number) const;
 
     CenterScreen* centerScreen = nullptr;
@@ -103,9 +105,9 @@ public:
     QList<QGraphicsItem*> listItemsTonic;
     KeyControllerBase* tonicController = nullptr;
     KeyControllerBase* scaleController = nullptr;
-    QList<int> inNoteHeld;       ///< 128 flags by MIDI note number
-    QList<RtMidiIn*> inPorts;    ///< one slot a list row, null while closed
-    QList<RtMidiOut*> outPorts;  ///< one slot a list row, null while closed
+    QList<int> inNoteHeld;      ///< 128 flags by MIDI note number
+    QList<RtMidiIn*> inPorts;   ///< one slot a list row, null while closed
+    QList<RtMidiOut*> outPorts; ///< one slot a list row, null while closed
     bool midiOutOpen = false;
     QList<QGraphicsItem*> listItemsIN;
     QList<QGraphicsItem*> listItemsOUT;
@@ -207,8 +209,8 @@ private:
     PortKeeper<RtMidiOut> outPortKeeper{outPorts};
 };
 
-/// The one window: set by its constructor, valid as long as it lives. Main thread only, but for the address that
-/// the MIDI threads hold through `connecter`.
+/// The one window: set by its constructor, valid as long as it lives. Main thread only, but for the address
+/// that the MIDI threads hold through `connecter`.
 extern MainWnd* mainWnd;
 /// The application object, set by main().
 extern QApplication* app;

@@ -68,7 +68,9 @@ QPixmap MainWnd::getDigitalPix(digit_type type, int number) const
         return digits.value(number);
     const QString text = QString::number(number);
     const bool negative = number < 0;
-    const auto glyphAt = [&](int i) { return i < text.size() ? digits.value(text.at(i).digitValue()) : QPixmap(); };
+    const auto glyphAt = [&](int i) {
+        return i < text.size() ? digits.value(text.at(i).digitValue()) : QPixmap();
+    };
     if (!negative)
         return joined(glyphAt(0), glyphAt(1), QPixmap(), pairWidth);
     return joined(digits.value(minusSign), glyphAt(1), glyphAt(2), negativeWidth);

@@ -69,8 +69,7 @@ void MainWnd::pushKeySlot(QList<int> message) // NOLINT(performance-unnecessary-
 
 void MainWnd::pressInKey(ResizableItem* key, int velocity)
 {
-    const bool powerKey =
-        key_roles::isBlack(key) && key_roles::pitch(key) == key_roles::pitch(powerItem);
+    const bool powerKey = key_roles::isBlack(key) && key_roles::pitch(key) == key_roles::pitch(powerItem);
     if (powerKey && !learnTonic && !learnScale) {
         switchPower();
         return;

@@ -14,9 +14,6 @@
 
 namespace {
 
-const QString virtualIn = QStringLiteral("Sorvane MIDI In");
-const QString virtualOut = QStringLiteral("Sorvane MIDI Out");
-
 bool isRowSelected(const QListWidgetItem* item)
 {
     return item && item->listWidget() && item->isSelected();
@@ -30,7 +27,8 @@ int firstRowNamed(const QListWidget& list, const QString& name)
     return -1;
 }
 
-template <typename Port> void closeSlot(Port*& port)
+template <typename Port>
+void closeSlot(Port*& port)
 {
     if (port)
         port->closePort();
@@ -39,7 +37,8 @@ template <typename Port> void closeSlot(Port*& port)
 }
 
 /// Closing a port of a dead server takes a second each: nobody on stage waits for that.
-template <typename Port> void giveUp(QList<Port*>& ports)
+template <typename Port>
+void giveUp(QList<Port*>& ports)
 {
     for (Port*& port : ports)
         if (port) {
@@ -52,7 +51,8 @@ template <typename Port> void giveUp(QList<Port*>& ports)
 
 QString MainWnd::portErrorText(const QString& reason)
 {
-    return tr("There was an error with selected MIDI port:<br/>%1<br/>Please check if this port is not opened "
+    return tr("There was an error with selected MIDI port:<br/>%1<br/>Please check if this port is not "
+              "opened "
               "in some other software.")
         .arg(reason);
 }
@@ -75,25 +75,25 @@ void MainWnd::scanMIDIPorts()
     const QStringList inputs = service ? midiService().inputNames() : QStringList();
     for (const QString& name : inputs) {
         inPorts.append(nullptr);
-        centerScreen->addInPort(name, SettingsStore::getMidiInPortSelected(name, name == virtualIn));
+        centerScreen->addInPort(name, SettingsStore::getMidiInPortSelected(name, name == virtualInName));
     }
     qDeleteAll(outPorts);
     outPorts.clear();
     const QStringList outputs = service ? midiService().outputNames() : QStringList();
     for (const QString& name : outputs) {
         outPorts.append(nullptr);
-        centerScreen->addOutPort(name, SettingsStore::getMidiOutPortSelected(name, name == virtualOut));
+        centerScreen->addOutPort(name, SettingsStore::getMidiOutPortSelected(name, name == virtualOutName));
     }
     inPorts.append(nullptr);
-    centerScreen->addInPort(virtualIn, SettingsStore::getMidiInPortSelected(virtualIn, true));
+    centerScreen->addInPort(virtualInName, SettingsStore::getMidiInPortSelected(virtualInName, true));
     outPorts.append(nullptr);
-    centerScreen->addOutPort(virtualOut, SettingsStore::getMidiOutPortSelected(virtualOut, true));
+    centerScreen->addOutPort(virtualOutName, SettingsStore::getMidiOutPortSelected(virtualOutName, true));
 }
 
 void MainWnd::openIn(int row, const QString& name)
 {
     auto port = midiService().makeInput();
-    if (name == virtualIn)
+    if (name == virtualInName)
         port->openVirtualPort(name.toStdString());
     else
         port->openPort(static_cast<unsigned>(row), "RtMidi Input");
@@ -105,15 +105,15 @@ void MainWnd::openIn(int row, const QString& name)
 void MainWnd::openOut(int row, const QString& name)
 {
     auto port = midiService().makeOutput();
-    if (name == virtualOut)
+    if (name == virtualOutName)
         port->openVirtualPort(name.toStdString());
     else
         port->openPort(static_cast<unsigned>(row), "RtMidi Output");
     outPorts[row] = port.release();
 }
 
-// False if the row's port was open already and stays so. A row that fails stays selected with a null slot, so the
-// next change of the selection tries it again. Without any service there is nothing to try.
+// False if the row's port was open already and stays so. A row that fails stays selected with a null slot, so
+// the next change of the selection tries it again. Without any service there is nothing to try.
 bool MainWnd::applyInRow(int row)
 {
     const QListWidgetItem* item = centerScreen->inPortList->item(row);

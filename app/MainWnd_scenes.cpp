@@ -51,8 +51,7 @@ QPoint whitePosition(int note)
 
 QPixmap barePicture(const QString& name)
 {
-    return key_pictures::picture(KeySheet::plain, key_pictures::shapeOf(name), KeyCell::idle,
-                                 KeyShine::none);
+    return key_pictures::picture(KeySheet::plain, key_pictures::shapeOf(name), KeyCell::idle, KeyShine::none);
 }
 
 QGraphicsPixmapItem* addPicture(QGraphicsScene* scene, const char* path, QPointF position)
@@ -79,8 +78,7 @@ ResizableItem* MainWnd::createResItem(const QString& side, const QString& name, 
     key_roles::setPitch(key, note);
     key_roles::setName(key, name);
     key_roles::setInScale(key, true);
-    key->setPixmap(side == QLatin1String("in") ? addBlueShine(key->pixmap())
-                                               : addYellowShine(key->pixmap()));
+    key->setPixmap(side == QLatin1String("in") ? addBlueShine(key->pixmap()) : addYellowShine(key->pixmap()));
     return key;
 }
 

@@ -38,7 +38,8 @@ constexpr Cell cells[] = {
     {80, 10, 38, true},  {85, 17, 60, false}, {97, 10, 38, true},  {102, 17, 60, false},
 };
 
-// The sheet has six rows: idle octave, lit white keys, lit black keys; first for the tonic, then for the scale.
+// The sheet has six rows: idle octave, lit white keys, lit black keys; first for the tonic, then for the
+// scale.
 QPixmap sheetCell(tonic_key_type type, int row, const QRect& cell)
 {
     const int first = type == tonic_key_scale ? 3 : 0;
@@ -95,7 +96,8 @@ void MainWnd::createRow(tonic_key_type type, KeyControllerBase* ctrl, TonicScene
             const Cell& cell = cells[index];
             if (cell.black != black)
                 continue;
-            auto* key = createTonicKeyItem(type, ctrl, index, litKey(type, cell), origin + QPointF(cell.x, 0));
+            auto* key =
+                createTonicKeyItem(type, ctrl, index, litKey(type, cell), origin + QPointF(cell.x, 0));
             scene.addItem(key);
             selectorItems.append(key);
         }

@@ -86,8 +86,7 @@ void MainWnd::createSceneCenter()
     ui.versionLabel->setOpenExternalLinks(true);
     ui.about->setHtml(CenterScreen::getMainTextData(
         QStringLiteral(":/Resources/CenterScreen/MainCenterScreenTextData.html")));
-    ui.centerLogo->setPixmap(
-        pictures::load(QStringLiteral(":/Resources/CenterScreen/Sorvane-Logo-CM.png")));
+    ui.centerLogo->setPixmap(pictures::load(QStringLiteral(":/Resources/CenterScreen/Sorvane-Logo-CM.png")));
     const QString style =
         CenterScreen::getMainTextData(QStringLiteral(":/Resources/CenterScreen/button.qss"));
     for (QPushButton* button : {ui.buttonMIDIinOut, ui.buttonCredits, ui.buttonManual, ui.buttonExport,
@@ -159,12 +158,26 @@ void MainWnd::rememberPlaces()
 {
     for (QWidget* child : {ui.outKeyboardGraphicsView, ui.inKeyboardGraphicsView})
         places.push_back({child, child->x(), 2});
-    for (QWidget* child : std::initializer_list<QWidget*>{
-             ui.centerGraphicsView, ui.buttonMIDIinOut, ui.buttonCredits, ui.buttonManual, ui.buttonExport,
-             ui.buttonImport, ui.buttonReset, ui.centerLogo, ui.about, ui.scene1Button, ui.scene2Button,
-             ui.scene34TopButton, ui.scene34LeftButton, ui.scene4RightButton, ui.scene3RightButton,
-             ui.hiddenLayer, ui.labelBottom, ui.versionLabel, centerScreen->inPortList,
-             centerScreen->outPortList})
+    for (QWidget* child : std::initializer_list<QWidget*>{ui.centerGraphicsView,
+                                                          ui.buttonMIDIinOut,
+                                                          ui.buttonCredits,
+                                                          ui.buttonManual,
+                                                          ui.buttonExport,
+                                                          ui.buttonImport,
+                                                          ui.buttonReset,
+                                                          ui.centerLogo,
+                                                          ui.about,
+                                                          ui.scene1Button,
+                                                          ui.scene2Button,
+                                                          ui.scene34TopButton,
+                                                          ui.scene34LeftButton,
+                                                          ui.scene4RightButton,
+                                                          ui.scene3RightButton,
+                                                          ui.hiddenLayer,
+                                                          ui.labelBottom,
+                                                          ui.versionLabel,
+                                                          centerScreen->inPortList,
+                                                          centerScreen->outPortList})
         places.push_back({child, child->x(), 1});
     setMinimumSize(formWidth, stageHeight);
     setMaximumSize(stageWidth, stageHeight);

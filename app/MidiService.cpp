@@ -8,6 +8,9 @@
 #include <unistd.h>
 #endif
 
+const QString virtualInName = QStringLiteral("Sorvane MIDI In");
+const QString virtualOutName = QStringLiteral("Sorvane MIDI Out");
+
 namespace {
 
 constexpr char inputClient[] = "RtMidi Input Client";
@@ -39,7 +42,8 @@ bool isWanted(MidiService::Wanted wanted, RtMidi::Api api)
     return false;
 }
 
-template <typename Port> QStringList namesOf(Port& port)
+template <typename Port>
+QStringList namesOf(Port& port)
 {
     QStringList names;
     const unsigned count = port.getPortCount();

@@ -10,9 +10,14 @@
 
 class JackWatch;
 
+/// The names of the program's own ports, as rows of the lists and as others see them.
+extern const QString virtualInName;
+extern const QString virtualOutName;
+
 /// The one choice of a MIDI back end, and the maker of every port object. Main thread only.
 ///
-/// The compiled-in back ends are tried in their order, once, at the first use; the first that can be had is kept.
+/// The compiled-in back ends are tried in their order, once, at the first use; the first that can be had is
+/// kept.
 class MidiService : public QObject
 {
     Q_OBJECT

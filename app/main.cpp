@@ -62,9 +62,6 @@ int runStage(CommandLine& wanted, int argc, char** argv)
     app = &application;
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     nameProgram();
-    // A line for each note costs more than the note.
-    if (!wanted.debug)
-        QLoggingCategory::setFilterRules(QStringLiteral("sorvane.*.debug=false"));
     midiService().choose(wanted.midiApi);
     const QString error = start::selectPorts(wanted);
     if (!error.isEmpty())
@@ -90,6 +87,9 @@ int main(int argc, char** argv)
     const QString error = wanted.parse(toList(argc, argv));
     if (!error.isEmpty())
         return fail(error);
+    // A line for each note costs more than the note. QT_LOGGING_RULES has the last word.
+    if (!wanted.debug)
+        QLoggingCategory::setFilterRules(QStringLiteral("sorvane.*.debug=false"));
     if (wanted.help || wanted.version || wanted.listPorts)
         return runPrinting(wanted, argc, argv);
     if (wanted.headless)

@@ -11,9 +11,6 @@
 namespace start {
 namespace {
 
-const QString virtualIn = QStringLiteral("Sorvane MIDI In");
-const QString virtualOut = QStringLiteral("Sorvane MIDI Out");
-
 void print(std::FILE* stream, const QString& line)
 {
     std::fprintf(stream, "%s\n", qUtf8Printable(line));
@@ -46,8 +43,8 @@ int listPorts()
         reportMissingService();
         return 1;
     }
-    printPorts(QCoreApplication::translate("start", "Inputs:"), service.inputNames() << virtualIn);
-    printPorts(QCoreApplication::translate("start", "Outputs:"), service.outputNames() << virtualOut);
+    printPorts(QCoreApplication::translate("start", "Inputs:"), service.inputNames() << virtualInName);
+    printPorts(QCoreApplication::translate("start", "Outputs:"), service.outputNames() << virtualOutName);
     return 0;
 }
 
@@ -57,14 +54,15 @@ QString selectPorts(CommandLine& wanted)
     const bool listed = named && midiService().isAvailable();
     const QStringList inputs = listed ? midiService().inputNames() : QStringList();
     const QStringList outputs = listed ? midiService().outputNames() : QStringList();
-    const QString error = wanted.resolvePorts(inputs + QStringList(virtualIn), outputs + QStringList(virtualOut));
+    const QString error =
+        wanted.resolvePorts(inputs + QStringList(virtualInName), outputs + QStringList(virtualOutName));
     if (!error.isEmpty())
         return error;
     markSelected(inputs, wanted.inPorts, &SettingsStore::setMidiInPortSelected);
     markSelected(outputs, wanted.outPorts, &SettingsStore::setMidiOutPortSelected);
     if (wanted.noVirtual) {
-        SettingsStore::setMidiInPortSelected(virtualIn, false);
-        SettingsStore::setMidiOutPortSelected(virtualOut, false);
+        SettingsStore::setMidiInPortSelected(virtualInName, false);
+        SettingsStore::setMidiOutPortSelected(virtualOutName, false);
     }
     return {};
 }

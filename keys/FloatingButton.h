@@ -2,8 +2,8 @@
 
 #include <QGraphicsPixmapItem>
 
-/// A small push button that shows another picture while the mouse is held on it. In no scene yet: it belongs to
-/// the second window that the program does not open.
+/// A small push button that shows another picture while the mouse is held on it. In no scene yet: it belongs
+/// to the second window that the program does not open.
 class FloatingButton : public QGraphicsPixmapItem
 {
 public:

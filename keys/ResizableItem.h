@@ -9,9 +9,9 @@
 class AnchorsGroup;
 class QGraphicsItemGroup;
 
-/// A key of either keyboard, and the base of the power button and the headers. Its musical state lives in item
-/// data (key_roles.h); its picture is always a crop of a key sheet. Mapping operations run on the power item,
-/// press and release on the key. Main thread only.
+/// A key of either keyboard, and the base of the power button and the headers. Its musical state lives in
+/// item data (key_roles.h); its picture is always a crop of a key sheet. Mapping operations run on the power
+/// item, press and release on the key. Main thread only.
 class ResizableItem : public QGraphicsPixmapItem
 {
 public:

@@ -5,7 +5,6 @@
 #include "app/MainWnd.h"
 #include "keys/key_roles.h"
 
-
 void ResizableItem::changeColorOut(bool power)
 {
     const KeySheet inScale = power ? KeySheet::out : KeySheet::plain;
@@ -61,6 +60,7 @@ void ResizableItem::setAllKeysActive()
     for (QGraphicsItem* item : qAsConst(listItemsIN)) {
         auto* key = static_cast<ResizableItem*>(item);
         key_roles::setActive(key, true);
-        key->showCell(key_roles::isBlack(key) ? KeySheet::in : KeySheet::plain, KeyCell::idle, KeyShine::blue);
+        key->showCell(key_roles::isBlack(key) ? KeySheet::in : KeySheet::plain, KeyCell::idle,
+                      KeyShine::blue);
     }
 }

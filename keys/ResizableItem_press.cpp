@@ -1,4 +1,5 @@
-// What happens when a key goes down or up, whoever caused it: the MIDI input, the pointer or a drag across keys.
+// What happens when a key goes down or up, whoever caused it: the MIDI input, the pointer or a drag across
+// keys.
 
 #include "keys/ResizableItem.h"
 

@@ -52,7 +52,8 @@ void SwitchItem::showStatus()
         return;
     }
     const QPixmap top = statusPicture(type, currentStatus == status_on ? "On" : "Off");
-    setPixmap(pictures::overlay(neutral, top, QRectF(QPointF(), top.size() / top.devicePixelRatio()).toRect()));
+    setPixmap(
+        pictures::overlay(neutral, top, QRectF(QPointF(), top.size() / top.devicePixelRatio()).toRect()));
 }
 
 void SwitchItem::setStatusCtrl()

@@ -14,7 +14,8 @@ public:
     [[nodiscard]] int tonicModifierIndex() const;
     /// The active key's name; "" with the switch off or no key active.
     [[nodiscard]] QString tonicModifier() const;
-    /// Activates the key of that name. False for an unknown or empty name, and with the switch off unless forced.
+    /// Activates the key of that name. False for an unknown or empty name, and with the switch off unless
+    /// forced.
     bool setTonicModifier(const QString& name, bool update, bool force);
     void setActiveKey(TonicKeyItem* key);
 

@@ -8,7 +8,8 @@
 namespace {
 
 // Hidden items are never found, so the selectors sleep with the power off. Black keys lie above white ones.
-template <typename Item> Item* topmost(const QGraphicsScene& scene, const QPointF& pos)
+template <typename Item>
+Item* topmost(const QGraphicsScene& scene, const QPointF& pos)
 {
     const auto items = scene.items(pos);
     for (QGraphicsItem* item : items)

@@ -8,8 +8,8 @@ class TonicKeyItem;
 /// The scene of the two selector rows. It tells clicks from drags and drives the keys and switches with them.
 ///
 /// A gesture begins with a press of the left button on a key and stays in that key's row: each other key that
-/// the pointer enters is entered once, until the pointer enters another. A press and release on one key, with no
-/// other key entered, is a click.
+/// the pointer enters is entered once, until the pointer enters another. A press and release on one key, with
+/// no other key entered, is a click.
 class TonicScene : public QGraphicsScene
 {
     Q_OBJECT

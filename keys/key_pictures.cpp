@@ -33,7 +33,8 @@ const std::array<Cells, shapeCount> cellTable = {{
 
 const QRect shineRectangle(0, 0, 33, 43);
 
-template <typename Enum> constexpr std::size_t at(Enum value)
+template <typename Enum>
+constexpr std::size_t at(Enum value)
 {
     return static_cast<std::size_t>(value);
 }

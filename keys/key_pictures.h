@@ -15,7 +15,8 @@ enum class KeyCell { idle, pressed };
 /// The light that lies on an idle key.
 enum class KeyShine { none, blue, yellow };
 
-/// The pictures of keys: each crop of a sheet, with its shine, is made once and shared by all keys of its kind.
+/// The pictures of keys: each crop of a sheet, with its shine, is made once and shared by all keys of its
+/// kind.
 namespace key_pictures {
 
 /// The shape for a key's name: "A0" to "C8", or "#". Any other name gives `none`.

@@ -33,7 +33,8 @@ void store(Targets& targets, int key, int pitch)
         targets[indexOf(key)] = pitch;
 }
 
-template <typename Next> void walkFromSeed(Targets& targets, int tonic, int step, Next next)
+template <typename Next>
+void walkFromSeed(Targets& targets, int tonic, int step, Next next)
 {
     int cursor = seedPitch + step;
     for (int c = next(seedPitch + tonic + step); c != noTarget; c = next(c + step)) {

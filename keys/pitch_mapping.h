@@ -6,7 +6,8 @@
 /// Which out pitch each in key drives: the rule of the instrument as pure functions over plain values.
 ///
 /// Middle C sounds the tonic in the octave above it; each white key above and below sounds the next scale
-/// note above and below; black keys sound nothing. The anchor then slides that assignment along the white keys.
+/// note above and below; black keys sound nothing. The anchor then slides that assignment along the white
+/// keys.
 namespace pitch_mapping {
 
 inline constexpr int lowestPitch = 21;
@@ -28,7 +29,10 @@ using PitchSet = std::bitset<keyCount>;
 using Targets = std::array<int, keyCount>;
 
 /// Index of a pitch in PitchSet and Targets; only meaningful from 21 to 108.
-[[nodiscard]] constexpr std::size_t indexOf(int pitch) { return static_cast<std::size_t>(pitch - lowestPitch); }
+[[nodiscard]] constexpr std::size_t indexOf(int pitch)
+{
+    return static_cast<std::size_t>(pitch - lowestPitch);
+}
 
 /// True for the pitches of black keys; the octave pattern holds for every int.
 [[nodiscard]] bool isBlackPitch(int pitch);

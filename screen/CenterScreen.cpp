@@ -12,8 +12,8 @@
 namespace {
 
 constexpr int selectDelayMs = 200;
-const QPointF portBackgroundPos(320, 15);       // in the scene
-const QRect inListPlace(214, 196, 185, 80);     // in the form
+const QPointF portBackgroundPos(320, 15);   // in the scene
+const QRect inListPlace(214, 196, 185, 80); // in the form
 const QRect outListPlace(411, 196, 175, 80);
 
 } // namespace

@@ -17,7 +17,13 @@ public:
     CenterScreen(QGraphicsScene* scene, const Ui_SorvaneClass& form, QWidget* window);
 
     // What is shown
-    enum scene_number { scene_none = 0, scene_default = 1, scene_clean = 2, scene_ports = 3, scene_credits = 4 };
+    enum scene_number {
+        scene_none = 0,
+        scene_default = 1,
+        scene_clean = 2,
+        scene_ports = 3,
+        scene_credits = 4
+    };
     void setSceneDefault();
     void setSceneClean();
     void setSceneMIDIinOut();

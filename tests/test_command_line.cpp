@@ -1,0 +1,151 @@
+// What the command line accepts, and the one line that it answers to what it does not.
+
+#include "app/CommandLine.h"
+
+#include <QtTest>
+
+class TestCommandLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { qunsetenv("SORVANE_MIDI_API"); }
+
+    void nothingAskedForIsNothingSet();
+    void valuesAreRead();
+    void badValueIsOneLine_data();
+    void badValueIsOneLine();
+    void everyTonicNameIsKnown();
+    void environmentNamesTheBackEndUnlessTheOptionDoes();
+    void simpleLoggingWordIsAccepted();
+    void portIsNamedExactlyOrByAUniquePart();
+    void exactNameWinsOverLongerOnes();
+    void unknownOrAmbiguousPortIsOneLine();
+};
+
+namespace {
+
+QString parse(CommandLine& line, const QStringList& arguments)
+{
+    return line.parse(QStringList(QStringLiteral("sorvane")) + arguments);
+}
+
+} // namespace
+
+void TestCommandLine::nothingAskedForIsNothingSet()
+{
+    CommandLine line;
+    QCOMPARE(parse(line, {}), QString());
+    QVERIFY(!line.power.has_value());
+    QVERIFY(line.tonic.isEmpty() && line.scale.isEmpty() && line.inPorts.isEmpty() &&
+            line.outPorts.isEmpty());
+    QVERIFY(!line.headless && !line.debug && !line.noVirtual && !line.listPorts && !line.help &&
+            !line.version);
+    QVERIFY(line.midiApi == MidiService::Wanted::any);
+}
+
+void TestCommandLine::valuesAreRead()
+{
+    CommandLine line;
+    QCOMPARE(parse(line, {"--headless", "--power", "on", "--tonic", "F#", "--scale=xoxooxoxoxoo", "--in", "a",
+                          "--in", "b", "--out", "c", "--no-virtual", "--midi-api", "jack", "--debug"}),
+             QString());
+    QCOMPARE(line.power, std::optional<bool>(true));
+    QCOMPARE(line.tonic, QStringLiteral("F#"));
+    QCOMPARE(line.scale, QStringLiteral("xoxooxoxoxoo"));
+    QCOMPARE(line.inPorts, QStringList({"a", "b"}));
+    QCOMPARE(line.outPorts, QStringList("c"));
+    QVERIFY(line.headless && line.debug && line.noVirtual);
+    QVERIFY(line.midiApi == MidiService::Wanted::jack);
+}
+
+void TestCommandLine::badValueIsOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("unknown option") << QStringList{"--loud"};
+    QTest::newRow("power") << QStringList{"--power", "yes"};
+    QTest::newRow("empty power") << QStringList{"--power", ""};
+    QTest::newRow("power without value") << QStringList{"--power"};
+    QTest::newRow("tonic H") << QStringList{"--tonic", "H"};
+    QTest::newRow("tonic in small letters") << QStringList{"--tonic", "c"};
+    QTest::newRow("flat") << QStringList{"--tonic", "Db"};
+    QTest::newRow("eleven letters") << QStringList{"--scale", "xoxoxxoxoxo"};
+    QTest::newRow("thirteen letters") << QStringList{"--scale", "xoxoxxoxoxoxo"};
+    QTest::newRow("wrong letter") << QStringList{"--scale", "xoxoxxoxoxoy"};
+    QTest::newRow("line break behind the word") << QStringList{"--scale", "xoxoxxoxoxox\n"};
+    QTest::newRow("scale without tonic") << QStringList{"--scale", "ooxoxxoxoxox"};
+    QTest::newRow("back end") << QStringList{"--midi-api", "oss"};
+    QTest::newRow("empty back end") << QStringList{"--midi-api", ""};
+    QTest::newRow("stray word") << QStringList{"loud"};
+    QTest::newRow("two faults") << QStringList{"--power", "yes", "stray"};
+}
+
+void TestCommandLine::badValueIsOneLine()
+{
+    QFETCH(QStringList, arguments);
+    CommandLine line;
+    const QString error = parse(line, arguments);
+    QVERIFY(!error.isEmpty());
+    QVERIFY(!error.trimmed().contains(QLatin1Char('\n')));
+}
+
+void TestCommandLine::everyTonicNameIsKnown()
+{
+    for (const char* name : {"C", "C#", "D", "D#", "E", "F", "F#", "G", "G#", "A", "A#", "B"}) {
+        CommandLine line;
+        QCOMPARE(parse(line, {"--tonic", name}), QString());
+    }
+}
+
+void TestCommandLine::environmentNamesTheBackEndUnlessTheOptionDoes()
+{
+    qputenv("SORVANE_MIDI_API", "alsa");
+    CommandLine line;
+    QCOMPARE(parse(line, {}), QString());
+    QVERIFY(line.midiApi == MidiService::Wanted::alsa);
+    QCOMPARE(parse(line, {"--midi-api", "jack"}), QString());
+    QVERIFY(line.midiApi == MidiService::Wanted::jack);
+    qputenv("SORVANE_MIDI_API", "oss");
+    QVERIFY(!parse(line, {}).isEmpty());
+}
+
+void TestCommandLine::simpleLoggingWordIsAccepted()
+{
+    CommandLine line;
+    QCOMPARE(parse(line, {"qv_simple_logging"}), QString());
+}
+
+void TestCommandLine::portIsNamedExactlyOrByAUniquePart()
+{
+    CommandLine line;
+    line.inPorts = QStringList{"Pads", "Sorvane"};
+    line.outPorts = QStringList{"Synth"};
+    QCOMPARE(line.resolvePorts({"Grand 20:0", "Pads 24:0", "Sorvane MIDI In"}, {"Soft Synth 128:0"}),
+             QString());
+    QCOMPARE(line.inPorts, QStringList({"Pads 24:0", "Sorvane MIDI In"}));
+    QCOMPARE(line.outPorts, QStringList("Soft Synth 128:0"));
+}
+
+void TestCommandLine::exactNameWinsOverLongerOnes()
+{
+    CommandLine line;
+    line.inPorts = QStringList("Keys");
+    QCOMPARE(line.resolvePorts({"Keys 2", "Keys"}, {}), QString());
+    QCOMPARE(line.inPorts, QStringList("Keys"));
+}
+
+void TestCommandLine::unknownOrAmbiguousPortIsOneLine()
+{
+    CommandLine line;
+    line.inPorts = QStringList("Organ");
+    QVERIFY(line.resolvePorts({"Keys"}, {}).contains(QStringLiteral("Organ")));
+    line.inPorts = QStringList("Keys");
+    const QString error = line.resolvePorts({"Keys 1", "Keys 2"}, {});
+    QVERIFY(error.contains(QStringLiteral("Keys 1, Keys 2")));
+    line.inPorts.clear();
+    line.outPorts = QStringList("Organ");
+    QVERIFY(line.resolvePorts({"Organ"}, {"Keys"}).startsWith(QStringLiteral("--out")));
+}
+
+QTEST_GUILESS_MAIN(TestCommandLine)
+#include "test_command_line.moc"
