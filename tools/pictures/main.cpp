@@ -1,0 +1,52 @@
+// picture_painter FOLDER: paints every picture into FOLDER, at its size and, beside it, at twice its size.
+
+#include "tools/pictures/gif_writer.h"
+#include "tools/pictures/picture_table.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QSaveFile>
+
+#include <cstdio>
+
+namespace {
+
+bool save(const QImage& image, const QString& path)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    if (path.endsWith(QStringLiteral(".gif")))
+        file.write(gifData(image));
+    else
+        image.save(&file, "PNG", 0); // the smallest file
+    return file.commit();
+}
+
+QString densePath(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.path() + QLatin1Char('/') + file.completeBaseName() + QStringLiteral("@2x.") + file.suffix();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QGuiApplication application(argc, argv);
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: picture_painter FOLDER\n");
+        return 2;
+    }
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    for (const Picture& picture : allPictures()) {
+        const QString path = folder.filePath(picture.path);
+        if (!save(paintPicture(picture, 1), path) || !save(paintPicture(picture, 2), densePath(path))) {
+            std::fprintf(stderr, "cannot write %s\n", qUtf8Printable(path));
+            return 1;
+        }
+    }
+    return 0;
+}
