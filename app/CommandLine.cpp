@@ -92,8 +92,9 @@ QString CommandLine::parse(const QStringList& arguments)
     scale = parser.value("scale");
     const QString api =
         parser.isSet("midi-api") ? parser.value("midi-api") : qEnvironmentVariable("SORVANE_MIDI_API");
-    const QString error = checkWords(parser.positionalArguments());
-    return error.isEmpty() ? checkValues(parser, api) : error;
+    const QString words = checkWords(parser.positionalArguments());
+    const QString error = words.isEmpty() ? checkValues(parser, api) : words;
+    return error.simplified(); // one line, whatever the value holds
 }
 
 QString CommandLine::checkWords(const QStringList& words) const

@@ -90,7 +90,7 @@ public:
     [[nodiscard]] static QString portErrorText(const QString& reason);
 
     // Digits (MainWnd_digits.cpp)
-    enum digit_type { digit_anchor_in = 0, digit_anchor_out = 1, digit_square = 2, digit_bar = 3 };
+    enum digit_type : int { digit_anchor_in = 0, digit_anchor_out = 1, digit_square = 2, digit_bar = 3 };
     void createDigits();
     /// The number as a picture, 8 pixels high; at most two digits of it. An unknown type gives a null picture
     /// or, for two digits and negative numbers, a blank one.

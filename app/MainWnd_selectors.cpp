@@ -139,7 +139,6 @@ void MainWnd::createDisplayParts(TonicScene& scene)
 void MainWnd::createSceneTonic()
 {
     auto* scene = new TonicScene(QRectF(QPointF(), QSizeF(ui.centerGraphicsView->size())), this);
-    scene->setItemIndexMethod(QGraphicsScene::NoIndex);
     createDisplayParts(*scene);
     tonicController = new TonicKeyController(this);
     scaleController = new ScaleKeyController(this);

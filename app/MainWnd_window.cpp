@@ -84,6 +84,7 @@ void MainWnd::createSceneCenter()
     centerScreen = new CenterScreen(ui.centerGraphicsView->scene(), ui, this);
     ui.versionLabel->setContentsMargins(0, 20, 0, 0);
     ui.versionLabel->setOpenExternalLinks(true);
+    ui.about->document()->setDocumentMargin(1); // three lines end above the shade of the display
     ui.about->setHtml(CenterScreen::getMainTextData(
         QStringLiteral(":/Resources/CenterScreen/MainCenterScreenTextData.html")));
     ui.centerLogo->setPixmap(pictures::load(QStringLiteral(":/Resources/CenterScreen/Sorvane-Logo-CM.png")));

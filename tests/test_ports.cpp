@@ -3,6 +3,7 @@
 #include "RecordingPort.h"
 #include "app/MainWnd.h"
 #include "app/MidiService.h"
+#include "keys/ResizableItem.h"
 #include "library/SettingsStore.h"
 #include "screen/CenterScreen.h"
 

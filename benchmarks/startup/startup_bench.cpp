@@ -52,7 +52,7 @@ qint64 startToFrameMs(QProcess& process, const QString& program)
 {
     QElapsedTimer timer;
     timer.start();
-    process.start(program, {});
+    process.start(program, QStringList());
     while (!isPainted() && timer.elapsed() < giveUpMs)
         QThread::msleep(1);
     return timer.elapsed();

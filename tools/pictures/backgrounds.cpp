@@ -114,19 +114,18 @@ void paintCaseShadow(QPainter& p, int alpha)
     }
 }
 
-void paintRimLight(QPainter& p, double y, const QColor& color)
+void paintSpill(QPainter& p, double y, const QColor& color)
 {
-    const QRectF line(34, y, 886, 2);
-    p.fillRect(line, withAlpha(color, 150));
-    const QRectF spill(34, y + 2, 886, 16);
+    const QRectF spill(34, y, 886, 16);
     p.fillRect(spill, vertical(spill, withAlpha(color, 56), withAlpha(color, 0)));
 }
 
 void paintOn(QPainter& p)
 {
     paintCaseShadow(p, 70);
-    paintRimLight(p, 46, palette::amber);
-    paintRimLight(p, 346, palette::blue);
+    p.fillRect(QRectF(34, 46, 886, 2), withAlpha(palette::amber, 150));
+    paintSpill(p, 48, palette::amber);
+    paintSpill(p, 348, palette::blue);
     brush::glow(p, stage::display, 1, QColor(255, 255, 240), 130);
 }
 

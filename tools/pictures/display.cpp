@@ -83,8 +83,8 @@ void paintPortView(QPainter& p)
         brush::fillRound(p, area, 3, mix(palette::display, Qt::white, 0.28));
         brush::strokeRound(p, area, 3, withAlpha(palette::ink, 130));
     };
-    list(QRectF(8, 27, 189, 83), QStringLiteral("MIDI IN"));
-    list(QRectF(205, 27, 179, 83), QStringLiteral("MIDI OUT"));
+    list(QRectF(8, 27, 189, 79), QStringLiteral("MIDI IN"));
+    list(QRectF(205, 27, 179, 79), QStringLiteral("MIDI OUT"));
 }
 
 } // namespace

@@ -160,6 +160,6 @@ void addKeyPictures(std::vector<Picture>& table)
     sheet("keyboardB_OUT.png", litLook(amberLight, amber, amberDark));
     sheet("keyboardB_deactive.png", asleepLook());
     sheet("keyboardB_LEARN.png", litLook(greenLight, green, greenDark));
-    table.push_back({"INPUTblueShine.png", {33, 43}, [](QPainter& p) { paintShine(p, blue, 92); }});
-    table.push_back({"OUTPUTyellowShine.png", {33, 43}, [](QPainter& p) { paintShine(p, amber, 92); }});
+    table.push_back({"INPUTblueShine.png", {33, 43}, [](QPainter& p) { paintShine(p, blue, 64); }});
+    table.push_back({"OUTPUTyellowShine.png", {33, 43}, [](QPainter& p) { paintShine(p, amber, 64); }});
 }

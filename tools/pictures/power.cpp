@@ -43,8 +43,8 @@ void paintButton(QPainter& p, bool on, int alpha = 255)
         brush::glow(p, square, 3, palette::ember, 120);
     const QRectF frame = square.adjusted(-1.5, -1.5, 1.5, 1.5);
     brush::fillRound(p, frame, 4, withAlpha(palette::gap, alpha));
-    const QColor top = on ? palette::emberLight : palette::graphiteLight;
-    const QColor bottom = on ? palette::ember : palette::graphite;
+    const QColor top = on ? mix(palette::ember, palette::emberLight, 0.35) : palette::graphiteLight;
+    const QColor bottom = on ? mix(palette::ember, Qt::black, 0.15) : palette::graphite;
     brush::fillRound(p, square, 3, vertical(square, withAlpha(top, alpha), withAlpha(bottom, alpha)));
     brush::strokeRound(p, square, 2.5, withAlpha(Qt::white, on ? 120 : 60));
     paintSymbol(p, on ? QColor(Qt::white) : withAlpha(palette::metalLight, alpha));
