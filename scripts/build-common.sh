@@ -1,0 +1,18 @@
+# Sourced by the other scripts: the project's folder and how a preset is configured and built.
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+# build_preset PRESET [CMAKE_OPTION...]
+build_preset() {
+    local preset=$1
+    shift
+    local log
+    log=$(mktemp)
+    if ! cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@" >"$log" 2>&1; then
+        cat "$log" >&2
+        rm -f "$log"
+        return 1
+    fi
+    rm -f "$log"
+    cmake --build --preset "$preset"
+}
