@@ -27,5 +27,5 @@ signals:
 class CBConnecter
 {
 public:
-    CBConnecter() {}
+    CBConnecter() = default;
 };

@@ -60,6 +60,7 @@ int runStage(CommandLine& wanted, int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     Application application(argc, argv);
     app = &application;
+    const EndSignals signalWatch(nullptr);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     nameProgram();
     midiService().choose(wanted.midiApi);
@@ -73,7 +74,6 @@ int runStage(CommandLine& wanted, int argc, char** argv)
         mainWnd->show();
     mainWnd->ui.versionLabel->setText(versionLine());
     start::setSelectors(wanted, *mainWnd);
-    const EndSignals signalWatch(nullptr);
     QApplication::exec();
     start::stopMidiInput(*mainWnd);
     return 0;

@@ -1,0 +1,211 @@
+#include "JackPlayer.h"
+
+#include <QElapsedTimer>
+#include <QtTest>
+
+#include <jack/jack.h>
+#include <jack/midiport.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+constexpr std::size_t ringBytes = 1U << 22U;
+constexpr int echoStatus = 0xBF, echoController = 119;
+constexpr int portWaitMs = 10000;
+
+template <typename Record>
+bool take(jack_ringbuffer_t* ring, Record& record)
+{
+    if (jack_ringbuffer_read_space(ring) < sizeof record)
+        return false;
+    jack_ringbuffer_read(ring, reinterpret_cast<char*>(&record), sizeof record);
+    return true;
+}
+
+template <typename Record>
+void put(jack_ringbuffer_t* ring, const Record& record)
+{
+    if (jack_ringbuffer_write_space(ring) >= sizeof record)
+        jack_ringbuffer_write(ring, reinterpret_cast<const char*>(&record), sizeof record);
+}
+
+} // namespace
+
+JackPlayer::JackPlayer(const QByteArray& name)
+    : outgoing(jack_ringbuffer_create(ringBytes)), incoming(jack_ringbuffer_create(ringBytes)),
+      sentFrames(jack_ringbuffer_create(ringBytes))
+{
+    client = jack_client_open(name.constData(), JackNoStartServer, nullptr);
+    if (!client)
+        return;
+    output = jack_port_register(client, "out", JACK_DEFAULT_MIDI_TYPE, JackPortIsOutput, 0);
+    input = jack_port_register(client, "in", JACK_DEFAULT_MIDI_TYPE, JackPortIsInput, 0);
+    jack_set_process_callback(client, &JackPlayer::onProcess, this);
+    jack_activate(client);
+}
+
+JackPlayer::~JackPlayer()
+{
+    if (client)
+        jack_client_close(client);
+}
+
+int JackPlayer::onProcess(jack_nframes_t frames, void* self)
+{
+    static_cast<JackPlayer*>(self)->process(frames);
+    return 0;
+}
+
+void JackPlayer::process(jack_nframes_t frames)
+{
+    const jack_nframes_t start = jack_last_frame_time(client);
+    void* out = jack_port_get_buffer(output, frames);
+    jack_midi_clear_buffer(out);
+    jack_nframes_t offset = 0;
+    Outgoing next{};
+    while (take(outgoing.get(), next)) {
+        offset = std::max(offset, std::min(next.offset, frames - 1));
+        if (jack_midi_event_write(out, offset, next.event.bytes, static_cast<std::size_t>(next.event.size)) ==
+            0)
+            put(sentFrames.get(), quint32(start + offset));
+    }
+    void* in = jack_port_get_buffer(input, frames);
+    const jack_nframes_t count = jack_midi_get_event_count(in);
+    for (jack_nframes_t i = 0; i < count; ++i) {
+        jack_midi_event_t event;
+        if (jack_midi_event_get(&event, in, i) != 0)
+            continue;
+        Event record{};
+        record.size = static_cast<int>(std::min<std::size_t>(event.size, sizeof record.bytes));
+        std::memcpy(record.bytes, event.buffer, static_cast<std::size_t>(record.size));
+        record.frame = start + event.time;
+        put(incoming.get(), record);
+    }
+}
+
+QByteArray JackPlayer::findPort(const QString& ending, unsigned long flags) const
+{
+    const char** names = jack_get_ports(client, nullptr, JACK_DEFAULT_MIDI_TYPE, flags);
+    QByteArray found;
+    for (int i = 0; names && names[i] && found.isEmpty(); ++i)
+        if (QString::fromUtf8(names[i]).endsWith(ending))
+            found = names[i];
+    jack_free(names);
+    return found;
+}
+
+bool JackPlayer::connectOutputTo(const QString& ending)
+{
+    return QTest::qWaitFor(
+        [&] {
+            const QByteArray port = findPort(ending, JackPortIsInput);
+            return !port.isEmpty() && jack_connect(client, jack_port_name(output), port.constData()) == 0;
+        },
+        portWaitMs);
+}
+
+bool JackPlayer::connectInputTo(const QString& ending)
+{
+    return QTest::qWaitFor(
+        [&] {
+            const QByteArray port = findPort(ending, JackPortIsOutput);
+            return !port.isEmpty() && jack_connect(client, port.constData(), jack_port_name(input)) == 0;
+        },
+        portWaitMs);
+}
+
+void JackPlayer::send(const Message& message)
+{
+    sendAt(message, 0);
+}
+
+void JackPlayer::sendAt(const Message& message, quint32 offset)
+{
+    Outgoing next{};
+    next.event.size = message.size();
+    next.offset = offset;
+    for (int i = 0; i < message.size(); ++i)
+        next.event.bytes[i] = static_cast<unsigned char>(message.at(i));
+    put(outgoing.get(), next);
+}
+
+bool JackPlayer::readEvent(Event& event)
+{
+    return take(incoming.get(), event);
+}
+
+bool JackPlayer::readSentFrame(quint32& frame)
+{
+    return take(sentFrames.get(), frame);
+}
+
+JackPlayer::Message JackPlayer::read()
+{
+    Event event{};
+    Message message;
+    if (readEvent(event))
+        for (int i = 0; i < event.size; ++i)
+            message.append(event.bytes[i]);
+    return message;
+}
+
+bool JackPlayer::waitForEcho(int timeoutMs)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < timeoutMs) {
+        const Message echo{echoStatus, echoController, echoNumber = (echoNumber + 1) % 128};
+        send(echo);
+        const bool back = QTest::qWaitFor(
+            [&] {
+                for (Message message = read(); !message.isEmpty(); message = read())
+                    if (message == echo)
+                        return true;
+                return false;
+            },
+            250);
+        if (back)
+            return true;
+    }
+    return false;
+}
+
+QList<JackPlayer::Message> JackPlayer::collect(int count, int timeoutMs)
+{
+    QList<Message> messages;
+    static_cast<void>(QTest::qWaitFor(
+        [&] {
+            for (Message message = read(); !message.isEmpty(); message = read())
+                messages.append(message);
+            return messages.size() >= count;
+        },
+        timeoutMs));
+    return messages;
+}
+
+QList<JackPlayer::Message> JackPlayer::answerTo(const QList<Message>& messages)
+{
+    const Message echo{echoStatus, echoController, echoNumber = (echoNumber + 1) % 128};
+    for (const Message& message : messages)
+        send(message);
+    send(echo);
+    QList<Message> answer;
+    static_cast<void>(QTest::qWaitFor(
+        [&] {
+            for (Message message = read(); !message.isEmpty(); message = read()) {
+                if (message == echo)
+                    return true;
+                answer.append(message);
+            }
+            return false;
+        },
+        5000));
+    return answer;
+}
+
+quint32 JackPlayer::now() const
+{
+    return jack_frame_time(client);
+}
