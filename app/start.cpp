@@ -54,7 +54,7 @@ QString selectPorts(CommandLine& wanted)
     const bool listed = named && midiService().isAvailable();
     const QStringList inputs = listed ? midiService().inputNames() : QStringList();
     const QStringList outputs = listed ? midiService().outputNames() : QStringList();
-    const QString error =
+    QString error =
         wanted.resolvePorts(inputs + QStringList(virtualInName), outputs + QStringList(virtualOutName));
     if (!error.isEmpty())
         return error;

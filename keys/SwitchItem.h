@@ -10,10 +10,10 @@ class SwitchItem : public QGraphicsPixmapItem
 public:
     enum switch_status { status_unset = -1, status_neutral = 0, status_off = 1, status_on = 2 };
 
-    static constexpr int scaleSwitch = 3; ///< the `switch_type` of the scale row; any other is the tonic row
+    static constexpr int scaleSwitch = 3; ///< the type of the scale row; any other is the tonic row
 
-    /// `controller` is required and learns of its switch here.
-    SwitchItem(int switch_type, KeyControllerBase* controller);
+    /// `ctrl` is required and learns of its switch here.
+    SwitchItem(int switchType, KeyControllerBase* ctrl);
 
     QPainterPath shape() const override;
 

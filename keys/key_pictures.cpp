@@ -10,7 +10,7 @@
 namespace key_pictures {
 namespace {
 
-constexpr int sheetCount = 5, shapeCount = 7, cellCount = 2, shineCount = 3;
+constexpr std::size_t sheetCount = 5, shapeCount = 7, cellCount = 2, shineCount = 3;
 
 //   sheet, 155 by 99:   0 10 19    36    53    70    87    104   121   138   154
 //                      |##|##| full   | D G A     | C F A0    | B E       |

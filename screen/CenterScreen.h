@@ -14,7 +14,7 @@ class CenterScreen : public QWidget
 
 public:
     /// Works on the widgets of the form, which it does not own, and on the scene below them.
-    CenterScreen(QGraphicsScene* scene, const Ui_SorvaneClass& form, QWidget* window);
+    CenterScreen(QGraphicsScene* centreScene, const Ui_SorvaneClass& ui, QWidget* mainWindow);
 
     // What is shown
     enum scene_number {

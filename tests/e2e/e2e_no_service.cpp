@@ -14,7 +14,7 @@
 namespace {
 
 const QString programPath = QStringLiteral(SORVANE_PROGRAM);
-const QPoint tonicC(40, 240), tonicE(77, 240), powerSquare(324, 340);
+const QPoint tonicC(40, 240), tonicE(77, 240), powerSquare(324, 354);
 
 QColor pixel(QPoint pos)
 {
