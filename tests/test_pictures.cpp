@@ -1,0 +1,207 @@
+// The committed pictures against the painter that draws them, and against what the stage needs of them.
+
+#include "tools/pictures/gif_writer.h"
+#include "tools/pictures/picture_table.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QtTest>
+
+namespace {
+
+constexpr int tolerance = 24; // of 255: another version of the font library may smooth a letter otherwise
+
+QString denseName(const QString& path)
+{
+    return QString(path).replace(QLatin1Char('.'), QStringLiteral("@2x."));
+}
+
+QImage committed(const QString& path)
+{
+    QImage image(QStringLiteral(":/Resources/") + path);
+    image.setDevicePixelRatio(1.0);
+    return image.convertToFormat(QImage::Format_ARGB32);
+}
+
+int difference(QRgb a, QRgb b)
+{
+    if (qAlpha(a) == 0 && qAlpha(b) == 0)
+        return 0;
+    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                     std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
+}
+
+int worstDifference(const QImage& a, const QImage& b)
+{
+    int worst = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            worst = std::max(worst, difference(a.pixel(x, y), b.pixel(x, y)));
+    return worst;
+}
+
+bool isBlankColumn(const QImage& image, int x)
+{
+    for (int y = 0; y < image.height(); ++y)
+        if (qAlpha(image.pixel(x, y)) != 0)
+            return false;
+    return true;
+}
+
+} // namespace
+
+class TestPictures : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void committedPictureIsThePaintersOwn_data();
+    void committedPictureIsThePaintersOwn();
+    void everyResourceIsPaintedOrText();
+    void keySheetsShareTheirOutline();
+    void keySheetsDifferInColour();
+    void pressedCellsDifferFromIdleOnes();
+    void cellsOfBlackKeysAreOpaque();
+    void digitsStandInTheirColumns_data();
+    void digitsStandInTheirColumns();
+    void displayStaysFlatBehindTheLabels();
+    void selectorLightsLeaveTheOtherKeysFree();
+};
+
+void TestPictures::committedPictureIsThePaintersOwn_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("scale");
+    for (int i = 0; i < static_cast<int>(allPictures().size()); ++i)
+        for (const int scale : {1, 2})
+            QTest::addRow("%s at %dx", qPrintable(allPictures()[static_cast<std::size_t>(i)].path), scale)
+                << i << scale;
+}
+
+void TestPictures::committedPictureIsThePaintersOwn()
+{
+    QFETCH(int, index);
+    QFETCH(int, scale);
+    const Picture& picture = allPictures()[static_cast<std::size_t>(index)];
+    const QImage file = committed(scale == 1 ? picture.path : denseName(picture.path));
+    QImage fresh = paintPicture(picture, scale);
+    if (picture.path.endsWith(QStringLiteral(".gif"))) // one bit of transparency
+        fresh = QImage::fromData(gifData(fresh)).convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(file.size(), picture.size * scale);
+    QVERIFY(worstDifference(file, fresh) <= tolerance);
+}
+
+void TestPictures::everyResourceIsPaintedOrText()
+{
+    QFile list(QStringLiteral(SORVANE_RESOURCES "/Resources.qrc"));
+    QVERIFY(list.open(QIODevice::ReadOnly));
+    QStringList listed;
+    const QStringList lines = QString::fromUtf8(list.readAll()).split(QLatin1Char('\n'));
+    for (const QString& line : lines)
+        if (line.contains(QStringLiteral("<file>")))
+            listed.append(line.section(QStringLiteral("<file>"), 1).section(QStringLiteral("</file>"), 0, 0));
+    for (const Picture& picture : allPictures()) {
+        QVERIFY2(listed.removeOne(picture.path), qPrintable(picture.path));
+        QVERIFY2(listed.removeOne(denseName(picture.path)), qPrintable(picture.path));
+    }
+    for (const QString& rest : qAsConst(listed))
+        QVERIFY2(rest.endsWith(QStringLiteral(".qss")) || rest.endsWith(QStringLiteral(".html")),
+                 qPrintable(rest));
+}
+
+void TestPictures::keySheetsShareTheirOutline()
+{
+    const QImage plain = committed("Keyboard/keyboardB.png");
+    for (const char* other : {"_IN", "_OUT", "_deactive", "_LEARN"}) {
+        const QImage sheet = committed(QStringLiteral("Keyboard/keyboardB%1.png").arg(QLatin1String(other)));
+        for (int y = 0; y < plain.height(); ++y)
+            for (int x = 0; x < plain.width(); ++x)
+                QCOMPARE(qAlpha(sheet.pixel(x, y)), qAlpha(plain.pixel(x, y)));
+    }
+}
+
+void TestPictures::keySheetsDifferInColour()
+{
+    QStringList names{"", "_IN", "_OUT", "_deactive", "_LEARN"};
+    for (const int x : {60, 77, 5, 15}) { // a white key idle and pressed, a black one idle and pressed
+        QList<QRgb> colors;
+        for (const QString& name : qAsConst(names))
+            colors.append(
+                committed(QStringLiteral("Keyboard/keyboardB%1.png").arg(name)).pixel(x, x > 20 ? 80 : 40));
+        for (int i = 0; i < colors.size(); ++i)
+            for (int j = i + 1; j < colors.size(); ++j)
+                QVERIFY2(difference(colors[i], colors[j]) > 12,
+                         qPrintable(names[i] + QLatin1Char('/') + names[j]));
+    }
+}
+
+void TestPictures::pressedCellsDifferFromIdleOnes()
+{
+    for (const char* name : {"", "_IN", "_OUT", "_deactive", "_LEARN"}) {
+        const QImage sheet = committed(QStringLiteral("Keyboard/keyboardB%1.png").arg(QLatin1String(name)));
+        QVERIFY(worstDifference(sheet.copy(53, 0, 17, 99), sheet.copy(70, 0, 17, 99)) > 12);
+        QVERIFY(worstDifference(sheet.copy(0, 0, 9, 64), sheet.copy(10, 0, 9, 64)) > 12);
+    }
+}
+
+// A white key's notch is transparent: what shines there must be hidden by the black key.
+void TestPictures::cellsOfBlackKeysAreOpaque()
+{
+    const QImage sheet = committed("Keyboard/keyboardB.png");
+    for (int x = 0; x < 20; ++x)
+        for (int y = 0; y < 64; ++y)
+            QCOMPARE(qAlpha(sheet.pixel(x, y)), 255);
+}
+
+void TestPictures::digitsStandInTheirColumns_data()
+{
+    QTest::addColumn<int>("sheet");
+    for (int sheet = 0; sheet < 4; ++sheet)
+        QTest::addRow("Numb%d", sheet) << sheet;
+}
+
+void TestPictures::digitsStandInTheirColumns()
+{
+    QFETCH(int, sheet);
+    const QImage image = committed(QStringLiteral("Numb%1.png").arg(sheet));
+    const int columns[][2] = {{0, 2},   {4, 6},   {8, 11},  {13, 17}, {19, 23}, {25, 28},
+                              {30, 35}, {37, 41}, {43, 48}, {50, 55}, {57, 62}};
+    QList<int> used;
+    for (const auto& glyph : columns) {
+        QVERIFY(!isBlankColumn(image, glyph[0]));
+        QVERIFY(!isBlankColumn(image, glyph[1]));
+        for (int x = glyph[0]; x <= glyph[1]; ++x)
+            used.append(x);
+    }
+    for (int x = 0; x < image.width(); ++x)
+        if (!used.contains(x))
+            QVERIFY(isBlankColumn(image, x));
+}
+
+void TestPictures::displayStaysFlatBehindTheLabels()
+{
+    const QImage back = committed("Background/BG_off.png");
+    const QImage on = committed("Background/BG_t_on-CM.png"), off = committed("Background/BG_t_off.png");
+    for (int x = 342; x < 607; ++x) {
+        QCOMPARE(back.pixel(x, 220), qRgb(200, 203, 192));
+        QCOMPARE(back.pixel(x, 277), qRgb(188, 184, 175));
+        for (const QImage& sheet : {on, off}) {
+            QCOMPARE(qAlpha(sheet.pixel(x, 220)), 0);
+            QCOMPARE(qAlpha(sheet.pixel(x, 277)), 0);
+        }
+    }
+}
+
+void TestPictures::selectorLightsLeaveTheOtherKeysFree()
+{
+    const QImage sheet = committed("KeyboardTonic.png");
+    for (const int selector : {0, 180})
+        for (const int left : {12, 29, 63, 80, 97}) {
+            QCOMPARE(qAlpha(sheet.pixel(left + 5, selector + 60 + 20)), 0); // lit white keys, at a black one
+            QCOMPARE(qAlpha(sheet.pixel(left + 5, selector + 120 + 20)), 255); // lit black keys
+            QCOMPARE(qAlpha(sheet.pixel(left + 5, selector + 120 + 50)), 0);
+        }
+}
+
+QTEST_MAIN(TestPictures)
+#include "test_pictures.moc"
