@@ -19,7 +19,7 @@ const QString programPath = QStringLiteral(SORVANE_PROGRAM);
 const QString virtualIn = QStringLiteral(":Sorvane MIDI In");
 const QString virtualOut = QStringLiteral(":Sorvane MIDI Out");
 const QPoint tonicSwitch(134, 260), scaleSwitch(898, 260), portsButton(289, 196), firstInRow(420, 204),
-    besideTheLists(473, 291);
+    firstOutRow(630, 204), besideTheLists(473, 291);
 
 /// The middle of a selector key: the foot of a white one, the body of a black one.
 QPoint keyPlace(int left, int index)
@@ -57,6 +57,7 @@ private slots:
     void clickTogglesOneDegree();
     void scaleSwitchOffStopsTheScaleGestures();
     void portIsClosedByItsRowWhileANoteIsHeld();
+    void portThatCannotOpenIsReportedAndOpensOnceTheServiceIsBack();
 
 private:
     /// Waits until the white keys answer as the tonic and scale say.
@@ -172,6 +173,30 @@ void EndToEndWindow::portIsClosedByItsRowWhileANoteIsHeld()
     QVERIFY(player->waitForEcho());
     QCOMPARE(player->answerTo({{0x90, 60, 91}}), Messages());
     QCOMPARE(player->answerTo({{0x80, 60, 0}}), (Messages{{0x80, 60, 0}}));
+}
+
+// Last, since it ends the daemon.
+void EndToEndWindow::portThatCannotOpenIsReportedAndOpensOnceTheServiceIsBack()
+{
+    QVERIFY(XServer::click(portsButton));
+    player.reset();
+    daemon.kill();
+    QVERIFY(program->waitForError(QStringLiteral("MIDI service has stopped")));
+    const QPoint virtualRow = firstInRow + QPoint(0, 15);
+    const auto toggleRow = [&virtualRow] {
+        return XServer::click(virtualRow) && XServer::click(besideTheLists);
+    };
+    QVERIFY(toggleRow() && toggleRow()); // off, and on again
+    QVERIFY(program->waitForError(QStringLiteral("There was an error with selected MIDI port:<br/>")));
+    QVERIFY(program->isRunning());
+
+    QVERIFY(daemon.start());
+    QVERIFY(toggleRow() && toggleRow());
+    QVERIFY(XServer::click(firstOutRow + QPoint(0, 15)) && XServer::click(besideTheLists));
+    QVERIFY(XServer::click(firstOutRow + QPoint(0, 15)));
+    player = std::make_unique<JackPlayer>("player");
+    QVERIFY(player->connectOutputTo(virtualIn) && player->connectInputTo(virtualOut) &&
+            player->waitForEcho());
 }
 
 int main(int argc, char** argv)
