@@ -66,7 +66,7 @@ private slots:
 private:
     ResizableItem* in(int note) const { return window->findInNote(note); }
     ResizableItem* out(int note) const { return static_cast<ResizableItem*>(in(note)->pairedOutKey); }
-    QList<QList<int>> sent();
+    QList<QList<int>> sent() const { return port->takeLists(); }
     void setScale(const char* word) const;
     void setTonic(const char* name) const;
     /// Slides the map by white keys, as the main anchor would.
@@ -86,14 +86,6 @@ void TestKeys::init()
     window->outPorts[0] = port;
     window->midiOutOpen = true;
     window->setPower(true);
-}
-
-QList<QList<int>> TestKeys::sent()
-{
-    QList<QList<int>> lists;
-    for (const RecordingPort::Message& message : port->take())
-        lists.append({message[0], message[1], message[2]});
-    return lists;
 }
 
 void TestKeys::setScale(const char* word) const

@@ -56,7 +56,7 @@ private slots:
 
 private:
     void play(const QList<int>& message) { emit window->signalKey(message); }
-    QList<QList<int>> sent();
+    QList<QList<int>> sent() const { return port->takeLists(); }
     void setPower(bool on);
 
     std::unique_ptr<MainWnd> window;
@@ -70,18 +70,6 @@ void TestMessageRoad::init()
     port = new RecordingPort;
     window->outPorts[0] = port;
     window->midiOutOpen = true;
-}
-
-QList<QList<int>> TestMessageRoad::sent()
-{
-    QList<QList<int>> lists;
-    for (const RecordingPort::Message& message : port->take()) {
-        QList<int> list;
-        for (const unsigned char byte : message)
-            list.append(byte);
-        lists.append(list);
-    }
-    return lists;
 }
 
 void TestMessageRoad::setPower(bool on)

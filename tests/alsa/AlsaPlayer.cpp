@@ -1,5 +1,7 @@
 #include "AlsaPlayer.h"
 
+#include "answer.h"
+
 #include <QtTest>
 
 namespace {
@@ -109,19 +111,5 @@ AlsaPlayer::Message AlsaPlayer::read()
 QList<AlsaPlayer::Message> AlsaPlayer::answerTo(const QList<Message>& messages)
 {
     const Message echo{0xBF, 119, echoNumber = (echoNumber + 1) % 128};
-    for (const Message& message : messages)
-        send(message);
-    send(echo);
-    QList<Message> answer;
-    static_cast<void>(QTest::qWaitFor(
-        [&] {
-            for (Message message = read(); !message.isEmpty(); message = read()) {
-                if (message == echo)
-                    return true;
-                answer.append(message);
-            }
-            return false;
-        },
-        waitMs));
-    return answer;
+    return answerBeforeEcho(*this, messages, echo, waitMs);
 }

@@ -1,5 +1,7 @@
 #include "JackPlayer.h"
 
+#include "answer.h"
+
 #include <QElapsedTimer>
 #include <QtTest>
 
@@ -188,21 +190,7 @@ QList<JackPlayer::Message> JackPlayer::collect(int count, int timeoutMs)
 QList<JackPlayer::Message> JackPlayer::answerTo(const QList<Message>& messages)
 {
     const Message echo{echoStatus, echoController, echoNumber = (echoNumber + 1) % 128};
-    for (const Message& message : messages)
-        send(message);
-    send(echo);
-    QList<Message> answer;
-    static_cast<void>(QTest::qWaitFor(
-        [&] {
-            for (Message message = read(); !message.isEmpty(); message = read()) {
-                if (message == echo)
-                    return true;
-                answer.append(message);
-            }
-            return false;
-        },
-        5000));
-    return answer;
+    return answerBeforeEcho(*this, messages, echo, 5000);
 }
 
 quint32 JackPlayer::now() const

@@ -48,6 +48,18 @@ std::vector<RecordingPort::Message> RecordingPort::take()
     return sent;
 }
 
+QList<QList<int>> RecordingPort::takeLists()
+{
+    QList<QList<int>> lists;
+    for (const Message& message : take()) {
+        QList<int> list;
+        for (const unsigned char byte : message)
+            list.append(byte);
+        lists.append(list);
+    }
+    return lists;
+}
+
 void RecordingPort::clear()
 {
     recorder(rtapi_).sent.clear();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+
 #include <RtMidi.h>
 
 #include <vector>
@@ -15,5 +17,7 @@ public:
     [[nodiscard]] const std::vector<Message>& messages() const;
     /// The messages since the last call.
     [[nodiscard]] std::vector<Message> take();
+    /// The same as lists of bytes, the program's own form of a message.
+    [[nodiscard]] QList<QList<int>> takeLists();
     void clear();
 };
