@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/PortKeeper.h"
 #include "keys/FloatingButton.h"
 #include "keys/TonicKeyItem.h"
 #include "ui_SorvaneClass.h"
@@ -24,19 +25,6 @@ class QListWidgetItem;
 class ResizableItem;
 class TonicScene;
 
-/// Frees the ports that a list of slots holds. The lists keep raw pointers because their shape is fixed.
-template <typename Port>
-class PortKeeper
-{
-public:
-    explicit PortKeeper(QList<Port*>& portSlots) : ports(portSlots) {}
-    ~PortKeeper() { qDeleteAll(ports); }
-    Q_DISABLE_COPY_MOVE(PortKeeper)
-
-private:
-    QList<Port*>& ports;
-};
-
 /// The one window. It owns the scenes, the controllers, the ports and the power button, and its constructor
 /// fixes the order in which the program comes up. Plain public members are the program's state. Main thread
 /// only, except inSigReceived().
@@ -48,14 +36,18 @@ public:
     MainWnd();
     ~MainWnd() override;
 
-    // Power and window (MainWnd.cpp)
+    // Power (MainWnd.cpp)
     /// Sets the power and everything that follows from it.
     void setPower(bool on);
     /// Toggles the power, unless a dialog is open.
     void switchPower();
     void setBackgroundSwitches(bool on);
-    bool eventFilter(QObject* object, QEvent* event) override;
     void createFloatingSwitches() {} ///< empty: there are no floating switches
+
+    // Window (MainWnd_window.cpp)
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+    // Centre screen (MainWnd_center.cpp)
     /// Keeps the stacking of the two large hit areas in step with the centre screen.
     void didCenterSceneChange();
 
@@ -171,22 +163,24 @@ private:
 
     // Window (MainWnd_window.cpp)
     [[nodiscard]] bool filterKeyPress(QEvent* event);
-    void lowerHitAreas();
-    void backToDefaultScene();
     void rememberPlaces();
     void placeChildren();
 
-    // Scenes
+    // Centre screen (MainWnd_center.cpp)
+    void lowerHitAreas();
+    void backToDefaultScene();
+
+    // Scenes (MainWnd_scenes.cpp, MainWnd_selectors.cpp)
     DiagramScene* createKeyScene(const QString& side, const QRectF& rectangle, QGraphicsView* view);
     void createRow(tonic_key_type type, KeyControllerBase* ctrl, TonicScene& scene, QPointF origin);
     [[nodiscard]] QPixmap numberedPlate(int ordinal) const;
     void createScaleSquares(TonicScene& scene, QPointF origin);
     void createDisplayParts(TonicScene& scene);
 
-    // MIDI
+    // MIDI (MainWnd_midi.cpp)
     void pressInKey(ResizableItem* key, int velocity);
 
-    // Ports
+    // Ports (MainWnd_ports.cpp)
     [[nodiscard]] bool applyInRow(int row);
     [[nodiscard]] bool applyOutRow(int row);
     void openIn(int row, const QString& name);
