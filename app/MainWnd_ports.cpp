@@ -27,6 +27,22 @@ int firstRowNamed(const QListWidget& list, const QString& name)
     return -1;
 }
 
+/// The row's index is the system's, as long as no port has come or gone since the rows were listed. Where one
+/// has, the name decides: a click must never open another device.
+template <typename Port>
+unsigned systemIndex(Port& port, int row, const QString& name)
+{
+    const auto index = static_cast<unsigned>(row);
+    const unsigned count = port.getPortCount();
+    const auto isNamed = [&](unsigned i) { return QString::fromStdString(port.getPortName(i)) == name; };
+    if (index < count && isNamed(index))
+        return index;
+    for (unsigned i = 0; i < count; ++i)
+        if (isNamed(i))
+            return i;
+    throw RtMidiError(MainWnd::tr("The port is gone.").toStdString(), RtMidiError::INVALID_DEVICE);
+}
+
 template <typename Port>
 void closeSlot(Port*& port)
 {
@@ -96,7 +112,7 @@ void MainWnd::openIn(int row, const QString& name)
     if (name == virtualInName)
         port->openVirtualPort(name.toStdString());
     else
-        port->openPort(static_cast<unsigned>(row), "RtMidi Input");
+        port->openPort(systemIndex(*port, row, name), "RtMidi Input");
     port->setCallback(&connecter::mycallback, nullptr);
     port->ignoreTypes(false, false, false);
     inPorts[row] = port.release();
@@ -108,7 +124,7 @@ void MainWnd::openOut(int row, const QString& name)
     if (name == virtualOutName)
         port->openVirtualPort(name.toStdString());
     else
-        port->openPort(static_cast<unsigned>(row), "RtMidi Output");
+        port->openPort(systemIndex(*port, row, name), "RtMidi Output");
     outPorts[row] = port.release();
 }
 

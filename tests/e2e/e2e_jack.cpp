@@ -9,7 +9,8 @@
 
 #include <QtTest>
 
-#include <csignal>
+#include <memory>
+#include <vector>
 
 namespace {
 
@@ -76,6 +77,7 @@ private slots:
     void commandLineSetsTonicAndScale();
     void otherChannelsAndControlChangesPassUnchanged();
     void twoInputsAndTwoOutputsAtOnce();
+    void rowOpensItsOwnDeviceThoughTheNumbersHaveMoved();
     void heldNoteOfAClosedPortIsReleasedThroughAnother();
     void listPortsNamesBothDirections();
     void unknownPortNameEndsBeforeAnythingOpens();
@@ -180,6 +182,24 @@ void EndToEndJack::twoInputsAndTwoOutputsAtOnce()
     const Messages two{{0x90, 62, 20}, {0x80, 60, 0}};
     QCOMPARE(first.collect(2), two);
     QCOMPARE(second.collect(2), two);
+}
+
+// A client that came between the listing and the opening took a freed number below that of the wanted device,
+// so the row's index opened the newcomer. The window's own delay of 200 milliseconds leaves room for that.
+void EndToEndJack::rowOpensItsOwnDeviceThoughTheNumbersHaveMoved()
+{
+    std::vector<std::unique_ptr<JackPlayer>> early;
+    for (int i = 0; i < 12; ++i)
+        early.push_back(std::make_unique<JackPlayer>("early"));
+    JackPlayer wanted("wanted keyboard");
+    early.clear(); // their numbers are free again
+    QVERIFY(startProgram({"--in", "wanted keyboard", "--no-virtual", "--out", "wanted keyboard", "--debug"}));
+    std::vector<std::unique_ptr<JackPlayer>> newcomers;
+    for (int i = 0; i < 8; ++i) {
+        newcomers.push_back(std::make_unique<JackPlayer>("newcomer"));
+        QTest::qWait(40); // spread over the listing, wherever it falls
+    }
+    QVERIFY(wanted.waitForEcho());
 }
 
 void EndToEndJack::heldNoteOfAClosedPortIsReleasedThroughAnother()
