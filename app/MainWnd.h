@@ -183,8 +183,10 @@ private:
     // Ports (MainWnd_ports.cpp)
     [[nodiscard]] bool applyInRow(int row);
     [[nodiscard]] bool applyOutRow(int row);
-    void openIn(int row, const QString& name);
-    void openOut(int row, const QString& name);
+    [[nodiscard]] RtMidiIn* openIn(int row, const QString& name) const;
+    [[nodiscard]] RtMidiOut* openOut(int row, const QString& name) const;
+    template <typename Port, typename Open>
+    [[nodiscard]] bool followRow(const QListWidgetItem* item, Port*& port, const Open& open);
     void alertPortError(const RtMidiError& error);
     void focusInKeyboard();
 

@@ -39,8 +39,10 @@ void MainWnd::createSceneCenter()
     ui.versionLabel->setContentsMargins(0, 20, 0, 0);
     ui.versionLabel->setOpenExternalLinks(true);
     ui.about->document()->setDocumentMargin(1); // three lines end above the shade of the display
+    // A line break behind the last tag would count as text, in a larger font.
     ui.about->setHtml(CenterScreen::getMainTextData(
-        QStringLiteral(":/Resources/CenterScreen/MainCenterScreenTextData.html")));
+                          QStringLiteral(":/Resources/CenterScreen/MainCenterScreenTextData.html"))
+                          .trimmed());
     ui.centerLogo->setPixmap(pictures::load(QStringLiteral(":/Resources/CenterScreen/Sorvane-Logo-CM.png")));
     const QString style =
         CenterScreen::getMainTextData(QStringLiteral(":/Resources/CenterScreen/button.qss"));

@@ -67,9 +67,8 @@ void giveUp(QList<Port*>& ports)
 
 QString MainWnd::portErrorText(const QString& reason)
 {
-    return tr("There was an error with selected MIDI port:<br/>%1<br/>Please check if this port is not "
-              "opened "
-              "in some other software.")
+    return tr("There was an error with selected MIDI port:<br/>%1<br/>"
+              "Please check if this port is not opened in some other software.")
         .arg(reason);
 }
 
@@ -106,7 +105,7 @@ void MainWnd::scanMIDIPorts()
     centerScreen->addOutPort(virtualOutName, SettingsStore::getMidiOutPortSelected(virtualOutName, true));
 }
 
-void MainWnd::openIn(int row, const QString& name)
+RtMidiIn* MainWnd::openIn(int row, const QString& name) const
 {
     auto port = midiService().makeInput();
     if (name == virtualInName)
@@ -115,61 +114,58 @@ void MainWnd::openIn(int row, const QString& name)
         port->openPort(systemIndex(*port, row, name), "RtMidi Input");
     port->setCallback(&connecter::mycallback, nullptr);
     port->ignoreTypes(false, false, false);
-    inPorts[row] = port.release();
+    return port.release();
 }
 
-void MainWnd::openOut(int row, const QString& name)
+RtMidiOut* MainWnd::openOut(int row, const QString& name) const
 {
     auto port = midiService().makeOutput();
     if (name == virtualOutName)
         port->openVirtualPort(name.toStdString());
     else
         port->openPort(systemIndex(*port, row, name), "RtMidi Output");
-    outPorts[row] = port.release();
+    return port.release();
 }
 
 // False if the row's port was open already and stays so. A row that fails stays selected with a null slot, so
 // the next change of the selection tries it again. Without any service there is nothing to try.
+template <typename Port, typename Open>
+bool MainWnd::followRow(const QListWidgetItem* item, Port*& port, const Open& open)
+{
+    const bool selected = isRowSelected(item);
+    if (selected && port)
+        return false;
+    if (!selected) {
+        closeSlot(port);
+    } else if (midiService().isAvailable()) {
+        try {
+            port = open();
+        } catch (const RtMidiError& error) {
+            alertPortError(error);
+            port = nullptr;
+        }
+    }
+    return true;
+}
+
 bool MainWnd::applyInRow(int row)
 {
     const QListWidgetItem* item = centerScreen->inPortList->item(row);
-    const bool selected = isRowSelected(item);
-    if (selected && inPorts.at(row))
-        return false;
     const QString name = centerScreen->getInPort(row);
-    if (!selected) {
-        closeSlot(inPorts[row]);
-    } else if (midiService().isAvailable()) {
-        try {
-            openIn(row, name);
-        } catch (const RtMidiError& error) {
-            alertPortError(error);
-            inPorts[row] = nullptr;
-        }
-    }
-    SettingsStore::setMidiInPortSelected(name, selected);
+    if (!followRow(item, inPorts[row], [&] { return openIn(row, name); }))
+        return false;
+    SettingsStore::setMidiInPortSelected(name, isRowSelected(item));
     return true;
 }
 
 bool MainWnd::applyOutRow(int row)
 {
     const QListWidgetItem* item = centerScreen->outPortList->item(row);
-    const bool selected = isRowSelected(item);
-    if (selected && outPorts.at(row))
-        return false;
     const QString name = centerScreen->getOutPort(row);
-    if (!selected) {
-        closeSlot(outPorts[row]);
-    } else if (midiService().isAvailable()) {
-        try {
-            openOut(row, name);
-        } catch (const RtMidiError& error) {
-            alertPortError(error);
-            outPorts[row] = nullptr;
-        }
-    }
+    if (!followRow(item, outPorts[row], [&] { return openOut(row, name); }))
+        return false;
     midiOutOpen = checkActiveMidiOut();
-    SettingsStore::setMidiOutPortSelected(name, selected);
+    SettingsStore::setMidiOutPortSelected(name, isRowSelected(item));
     return true;
 }
 
