@@ -76,6 +76,7 @@ private slots:
     void noteFortyNineTogglesThePower();
     void commandLineSetsTonicAndScale();
     void otherChannelsAndControlChangesPassUnchanged();
+    void systemPortsStayClosedOnAFirstRun();
     void twoInputsAndTwoOutputsAtOnce();
     void rowOpensItsOwnDeviceThoughTheNumbersHaveMoved();
     void heldNoteOfAClosedPortIsReleasedThroughAnother();
@@ -160,6 +161,17 @@ void EndToEndJack::otherChannelsAndControlChangesPassUnchanged()
     QCOMPARE(player.answerTo({{0xC0, 5}, {0xD0, 5}}), Messages()); // two bytes go nowhere
     QCOMPARE(player.answerTo({{0x90, 60, 9}, {0x83, 60, 7}}),
              (Messages{{0x90, 64, 9}, {0x80, 64, 0}, {0x83, 60, 7}}));
+}
+
+void EndToEndJack::systemPortsStayClosedOnAFirstRun()
+{
+    JackPlayer other("other device");
+    QVERIFY(startProgram({}));
+    JackPlayer player("player");
+    QVERIFY(openWay(player)); // the virtual ports are open by now, 200 milliseconds after the start
+    other.send({0xB0, 7, 1});
+    QCOMPARE(player.answerTo({{0x90, 60, 9}, {0x80, 60, 0}}), (Messages{{0x90, 60, 9}, {0x80, 60, 0}}));
+    QVERIFY(other.read().isEmpty());
 }
 
 void EndToEndJack::twoInputsAndTwoOutputsAtOnce()
