@@ -60,7 +60,7 @@ QString resolve(QStringList& wanted, const QStringList& rows, const QString& opt
     for (QString& name : wanted) {
         if (rows.contains(name))
             continue;
-        QStringList matches = rows.filter(name);
+        QStringList matches = name.isEmpty() ? QStringList() : rows.filter(name);
         matches.removeDuplicates();
         if (matches.isEmpty())
             return tr("%1: there is no port \"%2\" (see --list-ports)").arg(option, name);

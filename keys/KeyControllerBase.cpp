@@ -16,18 +16,23 @@ bool KeyControllerBase::shouldChangeState(TonicKeyItem*)
     return false;
 }
 
+// A neutral switch sleeps with the power off; the power wakes it with what the controller holds by then.
+void KeyControllerBase::showSwitch(bool toHeader)
+{
+    if (switchItem && switchItem->status() != SwitchItem::status_neutral)
+        switchItem->setStatus(switchOn ? SwitchItem::status_on : SwitchItem::status_off, toHeader);
+}
+
 void KeyControllerBase::setSwitchOn(bool toHeader)
 {
     switchOn = true;
-    if (switchItem)
-        switchItem->setStatus(SwitchItem::status_on, toHeader);
+    showSwitch(toHeader);
 }
 
 void KeyControllerBase::setSwitchOff(bool toHeader)
 {
     switchOn = false;
-    if (switchItem)
-        switchItem->setStatus(SwitchItem::status_off, toHeader);
+    showSwitch(toHeader);
 }
 
 TonicKeyItem* KeyControllerBase::findKey(int index) const

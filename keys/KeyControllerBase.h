@@ -34,4 +34,7 @@ public slots:
     void onKeyPressed(TonicKeyItem* key);
     void onKeyRelased(TonicKeyItem* key); // Kept: so spelt
     void onMouseHoverEntered(TonicKeyItem* key);
+
+private:
+    void showSwitch(bool toHeader);
 };

@@ -142,6 +142,8 @@ void TestCommandLine::unknownOrAmbiguousPortIsOneLine()
     line.inPorts = QStringList("Keys");
     const QString error = line.resolvePorts({"Keys 1", "Keys 2"}, {});
     QVERIFY(error.contains(QStringLiteral("Keys 1, Keys 2")));
+    line.inPorts = QStringList("");
+    QVERIFY(!line.resolvePorts({"Keys"}, {}).isEmpty()); // a part of everything is no name
     line.inPorts.clear();
     line.outPorts = QStringList("Organ");
     QVERIFY(line.resolvePorts({"Organ"}, {"Keys"}).startsWith(QStringLiteral("--out")));

@@ -53,6 +53,7 @@ private slots:
     void switchThatIsUnsetSaysSo();
     void switchesAreNeutralWithThePowerOff();
     void controllerAndSwitchFollowEachOther();
+    void switchStaysNeutralWhileItsControllerChangesInTheDark();
 
     void clickOnTonicKeyActivatesIt();
     void clickOnScaleKeyTogglesIt();
@@ -340,6 +341,18 @@ void TestSelectors::controllerAndSwitchFollowEachOther()
     QCOMPARE(scale()->switchItem->status(), SwitchItem::status_off);
     scale()->switchItem->setStatus(SwitchItem::status_on, true);
     QVERIFY(scale()->switchOn);
+}
+
+void TestSelectors::switchStaysNeutralWhileItsControllerChangesInTheDark()
+{
+    window->setPower(false);
+    scale()->setSwitchOff(false);
+    tonic()->setSwitchOn(false);
+    QCOMPARE(scale()->switchItem->status(), SwitchItem::status_neutral);
+    QCOMPARE(tonic()->switchItem->status(), SwitchItem::status_neutral);
+    window->setPower(true);
+    QCOMPARE(scale()->switchItem->status(), SwitchItem::status_off);
+    QCOMPARE(tonic()->switchItem->status(), SwitchItem::status_on);
 }
 
 void TestSelectors::clickOnTonicKeyActivatesIt()
