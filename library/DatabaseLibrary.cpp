@@ -1,0 +1,129 @@
+// The catalogue as a whole, and its records.
+
+#include "library/DatabaseLibrary.h"
+
+#include "library/DatabaseLibraryPrivate.h"
+#include "library/default_tables.h"
+
+#include <QMultiMap>
+
+DatabaseLibrary::DatabaseLibrary() : d(std::make_unique<DatabaseLibraryPrivate>())
+{
+    loadDefault();
+}
+
+DatabaseLibrary::~DatabaseLibrary() = default;
+
+void DatabaseLibrary::clear()
+{
+    d->scales.clear();
+    d->categoryNames.clear();
+    d->recentCategories.clear();
+    d->customList.clear();
+    d->categoryScales.clear();
+}
+
+void DatabaseLibrary::loadDefault()
+{
+    clear();
+    for (std::size_t i = 0; i < resetCatrgoryData.size(); ++i) {
+        insertCategory(resetCatrgoryData[i]);
+        if (i + 1 == resetCatrgoryData.size())
+            break; // the last category is the user's
+        std::size_t row = 0;
+        do {
+            const scale_data& scale = resetScaleData[i + 1][row];
+            setScaleData(scale.scale, scale, AnyRole);
+            appendScaleToCategory(resetCatrgoryData[i], scale.scale);
+        } while (static_cast<int>(++row) < numResetScales[i + 1]);
+    }
+}
+
+void DatabaseLibrary::getData(QMap<QString, scale_data>& data) const
+{
+    QMultiMap<QString, scale_data> all;
+    for (const QString& category : qAsConst(d->recentCategories)) {
+        const QList<QString> words = scalesFromCategory(category);
+        if (words.isEmpty())
+            all.insert(category, scale_data());
+        scale_data record;
+        for (const QString& word : words)
+            if (getScaleData(word, record, LibraryRole))
+                all.insert(category, record);
+    }
+    data = all;
+}
+
+void DatabaseLibrary::setData(const QMap<QString, scale_data>& data)
+{
+    const QMultiMap<QString, scale_data> all(data);
+    clear();
+    const QList<QString> names = all.uniqueKeys();
+    for (const QString& category : names) {
+        insertCategory(category);
+        const QList<scale_data> records = all.values(category);
+        for (const scale_data& record : records) {
+            if (record.scale.isEmpty() || record.title.isEmpty())
+                continue; // the marker of an empty category
+            if (!d->scales.contains(record.scale))
+                d->scales.insert(record.scale, record);
+            appendScaleToCategory(category, record.scale);
+        }
+    }
+}
+
+bool DatabaseLibrary::getScaleData(const QString& key, scale_data& out, UserRole role) const
+{
+    const auto found = d->scales.constFind(key);
+    if (found == d->scales.constEnd() || (role != AnyRole && isCustomScale(key) != (role == CustomRole)))
+        return false;
+    out = *found;
+    return true;
+}
+
+void DatabaseLibrary::setScaleData(const QString& key, const scale_data& record, UserRole role)
+{
+    d->scales.insert(key, record);
+    if (role == LibraryRole)
+        d->customList.removeAll(key);
+    else if (role == CustomRole)
+        setCustomScale(key);
+}
+
+bool DatabaseLibrary::containsScale(const QString& key, UserRole role) const
+{
+    return d->scales.contains(key) && (role == AnyRole || isCustomScale(key) == (role == CustomRole));
+}
+
+bool DatabaseLibrary::isCustomScale(const QString& key) const
+{
+    return d->customList.contains(key);
+}
+
+void DatabaseLibrary::setCustomScale(const QString& key)
+{
+    if (d->scales.contains(key) && !isCustomScale(key))
+        d->customList.append(key);
+}
+
+QList<QString> DatabaseLibrary::customScales() const
+{
+    return d->customList;
+}
+
+void DatabaseLibrary::removeScale(const QString& key)
+{
+    for (int i = 1; i < d->categoryScales.size(); ++i)
+        d->categoryScales[i].removeOne(key);
+    d->customList.removeOne(key);
+    d->scales.remove(key);
+}
+
+QList<QString> DatabaseLibrary::findCategoriesWithScale(const QString& key) const
+{
+    QList<QString> found;
+    for (int i = 0; i < d->categoryNames.size(); ++i)
+        if (d->categoryScales.at(i).contains(key))
+            found.append(d->categoryNames.at(i));
+    return found;
+}

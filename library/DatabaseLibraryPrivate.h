@@ -1,0 +1,27 @@
+#pragma once
+
+#include "library/scale_data.h"
+
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QVector>
+
+/// What DatabaseLibrary holds. `categoryScales` and `categoryNames` have the same length and belong together
+/// by index; `recentCategories` holds the same names; a category holds a word at most once.
+class DatabaseLibraryPrivate
+{
+public:
+    /// The words of a category, or null.
+    [[nodiscard]] QList<QString>* wordsOf(const QString& category);
+    [[nodiscard]] const QList<QString>* wordsOf(const QString& category) const;
+    void moveToFront(const QString& category);
+
+    QVector<QList<QString>> categoryScales;
+    QMap<QString, scale_data> scales;
+    QList<QString> customList;
+    int currentCategoryIdx = -1;
+    QList<QString> recentCategories; ///< the most recently selected first
+    QVector<QString> categoryNames;
+    QMap<QString, int> currentScaleIdx; ///< by category, -1 for none
+};
