@@ -6,6 +6,7 @@ const std::vector<Picture>& allPictures()
         std::vector<Picture> pictures;
         addKeyPictures(pictures);
         addPowerPictures(pictures);
+        addHeaderPictures(pictures);
         addBackgrounds(pictures);
         addBars(pictures);
         addSelectorPictures(pictures);

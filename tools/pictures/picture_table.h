@@ -25,6 +25,7 @@ struct Picture
 // One source each.
 void addKeyPictures(std::vector<Picture>& table);
 void addPowerPictures(std::vector<Picture>& table);
+void addHeaderPictures(std::vector<Picture>& table);
 void addBackgrounds(std::vector<Picture>& table);
 void addBars(std::vector<Picture>& table);
 void addSelectorPictures(std::vector<Picture>& table);

@@ -1,0 +1,165 @@
+// The presets: flags on poles that stand on the black keys. The head is a lamp, the badge on the pole a
+// window for the tonic; the text in it is the program's.
+
+#include "tools/pictures/brush.h"
+#include "tools/pictures/palette.h"
+#include "tools/pictures/picture_table.h"
+
+namespace {
+
+using brush::mix;
+using brush::vertical;
+using brush::withAlpha;
+
+/// One of the five shapes. Its left column of pixels is 0; the pole's middle stands on the middle of the key.
+struct Flag
+{
+    QSize size;
+    QRectF head, badge;
+    double tip;
+};
+
+constexpr double headTop = 1, headHeight = 24, badgeSize = 14;
+
+Flag flag(int width, double headLeft, double headWidth, double badgeLeft, double badgeTop, double tip)
+{
+    return {QSize(width, qRound(tip) + 4), QRectF(headLeft, headTop, headWidth, headHeight),
+            QRectF(badgeLeft, badgeTop, badgeSize, badgeSize), tip};
+}
+
+const Flag flags[] = {
+    flag(34, 1, 32, 19, 40, 60), flag(34, 1, 32, 2, 40, 60),  flag(44, 1, 34, 29, 67, 87),
+    flag(36, 1, 34, 11, 67, 87), flag(44, 10, 34, 2, 67, 87),
+};
+
+enum class Look { idle, active, shadow, target };
+
+bool isLit(Look look)
+{
+    return look == Look::active || look == Look::shadow;
+}
+
+void paintShadow(QPainter& p, const Flag& f)
+{
+    for (int i = 0; i < 3; ++i) {
+        brush::fillRound(
+            p, f.head.adjusted(i, 2 + i, 0, 1 + i / 2.0).intersected(QRectF({0, 0}, QSizeF(f.size))), 4,
+            withAlpha(Qt::black, 60));
+        brush::fillRound(p, f.badge.adjusted(i - 1, 2 + i, 1, 3), 4, withAlpha(Qt::black, 50));
+    }
+}
+
+void paintPole(QPainter& p, const Flag& f)
+{
+    const double x = f.badge.center().x();
+    const QRectF pole(x - 2, f.head.bottom() - 2, 4, f.tip - f.head.bottom() + 2);
+    QLinearGradient metal(pole.topLeft(), pole.topRight());
+    metal.setColorAt(0, palette::metalEdge);
+    metal.setColorAt(0.4, palette::metalLight);
+    metal.setColorAt(1, mix(palette::metalEdge, Qt::black, 0.4));
+    brush::fillRound(p, pole.adjusted(-1, 0, 1, 1), 1.5, withAlpha(palette::gap, 200));
+    p.fillRect(pole, metal);
+    // An arm says whose pole it is where it passes at the edge of its head.
+    const double inward = qBound(-12.0, f.head.center().x() - x, 12.0);
+    const QRectF arm = QRectF(x, f.head.bottom() - 1, inward, 3).normalized().adjusted(-2, 0, 2, 0);
+    brush::fillRound(p, arm.adjusted(-1, 0, 1, 1), 1.5, withAlpha(palette::gap, 200));
+    brush::fillRound(p, arm, 1.5, vertical(arm, palette::metalLight, palette::metalEdge));
+    // The foot clasps the key.
+    const QRectF foot(x - 4, f.tip - 2, 8, 4);
+    brush::fillRound(p, foot.adjusted(-1, -1, 1, 1), 2.5, withAlpha(palette::gap, 220));
+    brush::fillRound(p, foot, 2, metal);
+}
+
+void paintPlate(QPainter& p, const QRectF& area, double radius, const QColor& rim)
+{
+    brush::fillRound(p, area, radius, palette::gap);
+    const QRectF face = area.adjusted(1, 1, -1, -1);
+    brush::fillRound(p, face, radius - 1, vertical(face, palette::graphiteLight, palette::graphite));
+    brush::strokeRound(p, area.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, rim);
+}
+
+void paintLamp(QPainter& p, const QRectF& head, Look look)
+{
+    const QRectF lens = head.adjusted(5, 8, -5, -8);
+    const QColor light = isLit(look) ? palette::presetActive : palette::presetIdle;
+    const bool bright = look != Look::idle;
+    if (bright)
+        brush::glow(p, lens, 4, light, 150);
+    brush::fillRound(p, lens.adjusted(-1, -1, 1, 1), 5, withAlpha(Qt::black, 190));
+    const QColor top = bright ? mix(light, Qt::white, 0.55) : mix(light, Qt::black, 0.45);
+    const QColor bottom = bright ? mix(light, Qt::black, 0.08) : mix(light, Qt::black, 0.72);
+    brush::fillRound(p, lens, 4, vertical(lens, top, bottom));
+    brush::fillRound(p, QRectF(lens.left() + 2, lens.top() + 1, lens.width() - 4, 2), 1,
+                     withAlpha(Qt::white, bright ? 170 : 70));
+}
+
+/// Two arrows past each other: let go and the two change places.
+void paintArrows(QPainter& p, const QRectF& head)
+{
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(0x06, 0x2c, 0x38));
+    const QPointF c = head.center();
+    for (const double s : {-1.0, 1.0}) {
+        const QPolygonF arrow({c + QPointF(s * 9, -s * 1.5 - 1.5 * s), c + QPointF(s * 5, -4.2 * s - 1.5 * s),
+                               c + QPointF(s * 5, -s * 2.2 - 1.0 * s),
+                               c + QPointF(-s * 7, -s * 2.2 - 1.0 * s), c + QPointF(-s * 7, -s * 0.6),
+                               c + QPointF(s * 9, -s * 0.6)});
+        p.drawPolygon(arrow);
+    }
+}
+
+QColor rimOf(Look look)
+{
+    if (look == Look::target)
+        return withAlpha(Qt::white, 235);
+    return isLit(look) ? withAlpha(palette::presetActive, 210) : withAlpha(palette::presetIdle, 110);
+}
+
+void paintFlag(QPainter& p, const Flag& f, Look look)
+{
+    if (look == Look::shadow)
+        paintShadow(p, f);
+    paintPole(p, f);
+    paintPlate(p, f.head, 4, rimOf(look));
+    paintLamp(p, f.head, look);
+    if (look == Look::target)
+        paintArrows(p, f.head);
+    paintPlate(p, f.badge, 3, rimOf(look));
+    brush::fillRound(p, f.badge.adjusted(2, 2, -2, -2), 1.5, withAlpha(Qt::black, 150));
+}
+
+/// Lies over any of the looks while the menu is open.
+void paintMenuMark(QPainter& p, const Flag& f)
+{
+    for (const QRectF& part : {f.head, f.badge}) {
+        brush::fillRound(p, part.adjusted(1, 1, -1, -1), 3, withAlpha(Qt::white, 50));
+        brush::strokeRound(p, part.adjusted(0.5, 0.5, -0.5, -0.5), 3.5, withAlpha(Qt::white, 240));
+    }
+    p.setPen(Qt::NoPen);
+    for (const double x : {-6.0, 0.0, 6.0}) {
+        p.setBrush(Qt::black);
+        p.drawEllipse(f.head.center() + QPointF(x, 0), 2.6, 2.6);
+        p.setBrush(Qt::white);
+        p.drawEllipse(f.head.center() + QPointF(x, 0), 1.6, 1.6);
+    }
+}
+
+} // namespace
+
+void addHeaderPictures(std::vector<Picture>& table)
+{
+    int number = 0;
+    for (const Flag& f : flags) {
+        ++number;
+        const auto add = [&](const char* suffix, std::function<void(QPainter&)> paint) {
+            table.push_back(
+                {QStringLiteral("Headers/Header%1sharp_%2.png").arg(number).arg(QLatin1String(suffix)),
+                 f.size, std::move(paint)});
+        };
+        add("deactive", [&f](QPainter& p) { paintFlag(p, f, Look::idle); });
+        add("active", [&f](QPainter& p) { paintFlag(p, f, Look::active); });
+        add("ActiveDropShadow", [&f](QPainter& p) { paintFlag(p, f, Look::shadow); });
+        add("Switch", [&f](QPainter& p) { paintFlag(p, f, Look::target); });
+        add("SwitchContextMenu", [&f](QPainter& p) { paintMenuMark(p, f); });
+    }
+}
