@@ -4,6 +4,7 @@
 
 #include "app/MidiService.h"
 #include "app/connecter.h"
+#include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
 #include "keys/SwitchItem.h"
 #include "keys/TonicKeyController.h"
@@ -59,8 +60,10 @@ MainWnd::MainWnd() : newWindowShortcut(QKeySequence(QStringLiteral("Ctrl+N")), t
     createAnchorIN();
     createAnchorOUT();
     setBackgroundSwitches(false);
+    headerController->setHeadersStatus(false);
     powerItem->changeScaleByTonic();
     installFilters();
+    createShortcuts();
     SettingsStore::loadAllSettings();
     scanMIDIPorts();
 }
@@ -116,6 +119,7 @@ void MainWnd::setPower(bool on)
     powerItem->changeScaleByTonic();
     powerItem->setAllBlackBlue(on);
     setBackgroundSwitches(on);
+    headerController->setHeadersStatus(on);
 }
 
 void MainWnd::switchPower()

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "app/PortKeeper.h"
+#include "headers/HeaderItem.h"
 #include "keys/FloatingButton.h"
 #include "keys/TonicKeyItem.h"
+#include "library/DatabaseLibrary.h"
 #include "ui_SorvaneClass.h"
 
 #include <QApplication>
@@ -19,6 +21,7 @@
 
 class CenterScreen;
 class DiagramScene;
+class HeaderController;
 class KeyControllerBase;
 class PowerItem;
 class QListWidgetItem;
@@ -42,6 +45,9 @@ public:
     /// Toggles the power, unless a dialog is open.
     void switchPower();
     void setBackgroundSwitches(bool on);
+    /// Asks before something is lost. True if the user pressed the button of that text; the other is
+    /// "Cancel".
+    [[nodiscard]] bool confirmAlert(const QString& text, const QString& accept);
     void createFloatingSwitches() {} ///< empty: there are no floating switches
 
     // Window (MainWnd_window.cpp)
@@ -50,6 +56,18 @@ public:
     // Centre screen (MainWnd_center.cpp)
     /// Keeps the stacking of the two large hit areas in step with the centre screen.
     void didCenterSceneChange();
+
+    // Presets and library (MainWnd_presets.cpp)
+    /// Makes the preset of a black key: `keyNumber` is its MIDI note number, `headerIndex` the row of
+    /// `resetHeaderData`, 0 to 35; `position` in scene coordinates is its home.
+    void createHeaderItem(const QString& name, int keyNumber, int headerIndex, header_type type,
+                          QPointF position, header_status status);
+    /// Follows the word of the scale selector: the active header's names, and the library's current category
+    /// and scale. The argument is not used.
+    void checkScaleMatches(bool);
+    /// Puts the power button on the header below a place, given as the button's position in the scene. False
+    /// if there is none but its own; the button is back in its place then.
+    bool findPowerItemPosition(QPointF pos);
 
     // Scenes (MainWnd_scenes.cpp, MainWnd_selectors.cpp)
     /// Makes a key: `note` is its MIDI note number, `pixmap` its bare picture, `position` in scene
@@ -73,6 +91,9 @@ public:
     /// Writes the first three bytes of a message, which must have them, to every open output port.
     void sendMidiOut(const QList<int>* message);
     [[nodiscard]] bool checkActiveMidiOut() const;
+    /// Lets the pressed key be seen before a recall. MIDI messages that arrive meanwhile wait for the recall,
+    /// in their order, so that the next note plays the new mapping.
+    void showBeforeRecall();
 
     // Ports (MainWnd_ports.cpp)
     void scanMIDIPorts();
@@ -89,6 +110,7 @@ public:
     [[nodiscard]] QPixmap getDigitalPix(digit_type type, int number) const;
 
     CenterScreen* centerScreen = nullptr;
+    DatabaseLibrary library;
     PowerItem* powerItem = nullptr;
     bool dialogOpen = false;
     bool learnTonic = false;   ///< set by nobody yet
@@ -97,6 +119,7 @@ public:
     QList<QGraphicsItem*> listItemsTonic;
     KeyControllerBase* tonicController = nullptr;
     KeyControllerBase* scaleController = nullptr;
+    HeaderController* headerController = nullptr;
     QList<int> inNoteHeld;      ///< 128 flags by MIDI note number
     QList<RtMidiIn*> inPorts;   ///< one slot a list row, null while closed
     QList<RtMidiOut*> outPorts; ///< one slot a list row, null while closed
@@ -155,13 +178,14 @@ private:
     void addTonicDegreeKey();
     void wireKeys();
     void fillSceneIn();
-    void createHeaders() {} ///< the presets are not there yet
+    void createHeaders();
     void fillSceneOut();
     void createAnchorIN() {}  ///< the anchors are not there yet
     void createAnchorOUT() {} ///< the anchors are not there yet
     void installFilters();
 
     // Window (MainWnd_window.cpp)
+    void createShortcuts();
     [[nodiscard]] bool filterKeyPress(QEvent* event);
     void rememberPlaces();
     void placeChildren();
@@ -179,6 +203,8 @@ private:
 
     // MIDI (MainWnd_midi.cpp)
     void pressInKey(ResizableItem* key, int velocity);
+    [[nodiscard]] bool mustWait() const;
+    void playWaiting();
 
     // Ports (MainWnd_ports.cpp)
     [[nodiscard]] bool applyInRow(int row);
@@ -199,6 +225,9 @@ private:
     };
     std::vector<Place> places;
     QList<QGraphicsItem*> selectorItems; ///< what sleeps with the power off
+    QList<QList<int>> waitingMessages;   ///< arrived during a recall
+    bool holdMessages = false;
+    bool playingWaiting = false;
     std::array<QGraphicsPixmapItem*, 12> scaleSquares{};
     std::array<QPixmap, 13> squarePlates; ///< by ordinal; 0 is blank
     PortKeeper<RtMidiIn> inPortKeeper{inPorts};

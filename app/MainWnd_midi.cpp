@@ -48,6 +48,10 @@ ResizableItem* MainWnd::findInNote(int note) const
 
 void MainWnd::pushKeySlot(QList<int> message) // NOLINT(performance-unnecessary-value-param): a queued slot
 {
+    if (mustWait()) {
+        waitingMessages.append(message);
+        return;
+    }
     if (message.size() != messageSize)
         return;
     const int status = message.at(0), note = message.at(1), velocity = message.at(2);
@@ -81,9 +85,42 @@ void MainWnd::pressInKey(ResizableItem* key, int velocity)
 
 void MainWnd::midiThru(QList<int> message) // NOLINT(performance-unnecessary-value-param): a queued slot
 {
+    if (mustWait()) // pushKeySlot() has put it in the queue
+        return;
     if (learnTonic || learnScale || message.size() != messageSize || isPlayed(message.at(0)))
         return;
     sendMidiOut(&message);
+}
+
+bool MainWnd::mustWait() const
+{
+    return holdMessages || (!waitingMessages.isEmpty() && !playingWaiting);
+}
+
+// The event loop must run here, and messages are events. Played from in here they would find the old mapping,
+// and a flood of black keys would nest without end.
+void MainWnd::showBeforeRecall()
+{
+    if (holdMessages)
+        return;
+    holdMessages = true;
+    QCoreApplication::processEvents();
+    holdMessages = false;
+    if (!waitingMessages.isEmpty() && !playingWaiting)
+        QMetaObject::invokeMethod(this, &MainWnd::playWaiting, Qt::QueuedConnection);
+}
+
+void MainWnd::playWaiting()
+{
+    if (holdMessages || playingWaiting)
+        return; // the one that holds or plays goes on with them
+    playingWaiting = true;
+    while (!waitingMessages.isEmpty()) {
+        const QList<int> message = waitingMessages.takeFirst();
+        pushKeySlot(message);
+        midiThru(message);
+    }
+    playingWaiting = false;
 }
 
 void MainWnd::sendMidiOut(const QList<int>* message)

@@ -2,9 +2,13 @@
 
 #include "app/MainWnd.h"
 
+#include "headers/HeaderController.h"
+#include "keys/PowerItem.h"
 #include "screen/CenterScreen.h"
 
 #include <QKeyEvent>
+
+#include <functional>
 
 namespace {
 
@@ -29,6 +33,26 @@ bool MainWnd::eventFilter(QObject* object, QEvent* event)
     if (event->type() == QEvent::KeyPress && filterKeyPress(event))
         return true;
     return QDialog::eventFilter(object, event);
+}
+
+void MainWnd::createShortcuts()
+{
+    const auto add = [this](const char* keys, const std::function<void()>& action) {
+        auto* shortcut = new QShortcut(QKeySequence(QLatin1String(keys)), this);
+        connect(shortcut, &QShortcut::activated, this, [this, action] {
+            if (!dialogOpen)
+                action();
+        });
+    };
+    add("Ctrl+R", [this] { headerController->resetAll(); });
+    add("Ctrl+Left", [this] {
+        if (powerItem->isSwitchOn())
+            headerController->setActiveHeaderPrev();
+    });
+    add("Ctrl+Right", [this] {
+        if (powerItem->isSwitchOn())
+            headerController->setActiveHeaderNext();
+    });
 }
 
 bool MainWnd::filterKeyPress(QEvent* event)

@@ -16,23 +16,28 @@ bool KeyControllerBase::shouldChangeState(TonicKeyItem*)
     return false;
 }
 
+void KeyControllerBase::switchWasSet(bool) {}
+
 // A neutral switch sleeps with the power off; the power wakes it with what the controller holds by then.
-void KeyControllerBase::showSwitch(bool toHeader)
+void KeyControllerBase::setSwitch(bool on, bool toHeader)
 {
-    if (switchItem && switchItem->status() != SwitchItem::status_neutral)
-        switchItem->setStatus(switchOn ? SwitchItem::status_on : SwitchItem::status_off, toHeader);
+    switchOn = on;
+    const auto wanted = on ? SwitchItem::status_on : SwitchItem::status_off;
+    const bool awake = switchItem && switchItem->status() != SwitchItem::status_neutral;
+    if (awake && switchItem->status() != wanted)
+        switchItem->setStatus(wanted, toHeader); // comes back here with the switch as wanted
+    else
+        switchWasSet(toHeader);
 }
 
 void KeyControllerBase::setSwitchOn(bool toHeader)
 {
-    switchOn = true;
-    showSwitch(toHeader);
+    setSwitch(true, toHeader);
 }
 
 void KeyControllerBase::setSwitchOff(bool toHeader)
 {
-    switchOn = false;
-    showSwitch(toHeader);
+    setSwitch(false, toHeader);
 }
 
 TonicKeyItem* KeyControllerBase::findKey(int index) const

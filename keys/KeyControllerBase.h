@@ -35,6 +35,10 @@ public slots:
     void onKeyRelased(TonicKeyItem* key); // Kept: so spelt
     void onMouseHoverEntered(TonicKeyItem* key);
 
+protected:
+    /// Runs once for each setSwitchOn() and setSwitchOff(), when the switch stands.
+    virtual void switchWasSet(bool toHeader);
+
 private:
-    void showSwitch(bool toHeader);
+    void setSwitch(bool on, bool toHeader);
 };

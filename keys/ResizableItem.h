@@ -97,6 +97,7 @@ private:
     void learnFromKey();
     void pushBlackIn();
     void togglePower();
+    void recallPreset();
     [[nodiscard]] KeySheet idleSheet() const;
 
     [[nodiscard]] pitch_mapping::PitchSet scaleFromRoles() const;

@@ -3,6 +3,7 @@
 #include "keys/ResizableItem.h"
 
 #include "app/MainWnd.h"
+#include "headers/AnchorsGroup.h"
 #include "keys/PowerItem.h"
 #include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
@@ -68,6 +69,8 @@ void ResizableItem::changeScaleByTonic()
     setOutForIn(tonic, power);
     redrawAnchorAxis(tonic);
     setAllBlackBlue(power);
+    if (anchorsGroup)
+        anchorsGroup->refresh();
 }
 
 PitchSet ResizableItem::scaleFromRoles() const

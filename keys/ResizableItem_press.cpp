@@ -4,6 +4,7 @@
 #include "keys/ResizableItem.h"
 
 #include "app/MainWnd.h"
+#include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
 #include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
@@ -79,6 +80,9 @@ void ResizableItem::pushKey()
     else if (key_roles::isIn(this))
         pushIn(sheet, target);
     pressedByMouse = true;
+    if (mainWnd->headerController)
+        mainWnd->headerController->refreshActiveHeader(mainWnd->learnScale);
+    mainWnd->checkScaleMatches(true);
 }
 
 void ResizableItem::pushOut(KeySheet sheet)
@@ -115,6 +119,16 @@ void ResizableItem::pushBlackIn()
 {
     if (isPowerKey(this))
         togglePower();
+    else if (isPowerOn())
+        recallPreset();
+}
+
+void ResizableItem::recallPreset()
+{
+    mainWnd->showBeforeRecall();
+    HeaderController* presets = mainWnd->headerController;
+    presets->setActiveHeader(presets->findHeader(key_roles::pitch(this)), true);
+    mainWnd->powerItem->setAllBlackBlue(true);
 }
 
 void ResizableItem::togglePower()
@@ -125,6 +139,7 @@ void ResizableItem::togglePower()
                                        : QStringLiteral(":/Resources/Power/POWERBUTTONOff.png")));
     power->setSwithOn(on);
     mainWnd->setBackgroundSwitches(on);
+    mainWnd->headerController->setHeadersStatus(on);
     power->setAllBlackBlue(on);
     power->changeScaleByTonic();
 }

@@ -1,6 +1,7 @@
 #include "keys/ScaleKeyController.h"
 
 #include "app/MainWnd.h"
+#include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
 #include "keys/TonicKeyItem.h"
 #include "keys/tonic_names.h"
@@ -40,6 +41,13 @@ void ScaleKeyController::setSwitchOff(bool toHeader)
 {
     qCDebug(lcKeys) << "ScaleKeyController::setSwitchOff" << (toHeader ? "true" : "false");
     KeyControllerBase::setSwitchOff(toHeader);
+}
+
+void ScaleKeyController::switchWasSet(bool toHeader)
+{
+    if (toHeader && mainWnd->headerController)
+        mainWnd->headerController->storeScale(switchOn, scaleModifier());
+    mainWnd->checkScaleMatches(true);
 }
 
 QString ScaleKeyController::scaleModifier() const
@@ -103,11 +111,20 @@ bool ScaleKeyController::toggleKey(const QString& noteName)
 
 void ScaleKeyController::setAllOff()
 {
+    if (mainWnd->headerController)
+        mainWnd->headerController->clearScaleNames();
     setScaleModifier(QStringLiteral("xooooooooooo"), true);
+    mainWnd->checkScaleMatches(true);
 }
 
 void ScaleKeyController::setIonicMajor()
 {
     qCDebug(lcKeys) << "ScaelKeyController::setIonicMajor";
     setScaleModifier(QStringLiteral("xoxoxxoxoxox"), true);
+    mainWnd->checkScaleMatches(true);
+}
+
+int ScaleKeyController::curScaleNumber() const
+{
+    return mainWnd->headerController ? mainWnd->headerController->findMinUserNum() : 0;
 }

@@ -25,8 +25,14 @@ public:
     /// Flips the degree whose index is that of the note name, whatever the tonic is. False for "C" and for
     /// names that are no notes.
     bool toggleKey(const QString& noteName);
+    /// The tonic alone, and no names in the active header until the scale is named again.
     void setAllOff();
     void setIonicMajor();
+    /// The number that the next "User" scale will carry.
+    [[nodiscard]] int curScaleNumber() const;
+
+protected:
+    void switchWasSet(bool toHeader) override;
 
 private:
     [[nodiscard]] bool applyLetters(const QString& word);

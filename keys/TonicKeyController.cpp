@@ -1,6 +1,18 @@
 #include "keys/TonicKeyController.h"
 
+#include "app/MainWnd.h"
+#include "headers/HeaderController.h"
 #include "keys/TonicKeyItem.h"
+
+namespace {
+
+void storeInHeader(const QString& name)
+{
+    if (mainWnd->headerController)
+        mainWnd->headerController->storeTonic(name);
+}
+
+} // namespace
 
 int TonicKeyController::tonicModifierIndex() const
 {
@@ -28,6 +40,15 @@ bool TonicKeyController::setTonicModifier(const QString& name, bool update, bool
 void TonicKeyController::setActiveKey(TonicKeyItem* key)
 {
     activeKey = key;
+    if (key && switchOn)
+        storeInHeader(key->tableName());
+}
+
+void TonicKeyController::switchWasSet(bool toHeader)
+{
+    if (!toHeader || (switchOn && !activeKey))
+        return;
+    storeInHeader(switchOn ? activeKey->tableName() : QString());
 }
 
 bool TonicKeyController::shouldChangeState(TonicKeyItem*)

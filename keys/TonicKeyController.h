@@ -17,9 +17,13 @@ public:
     /// Activates the key of that name. False for an unknown or empty name, and with the switch off unless
     /// forced.
     bool setTonicModifier(const QString& name, bool update, bool force);
+    /// With the switch on the active header takes the key's name.
     void setActiveKey(TonicKeyItem* key);
 
     [[nodiscard]] bool shouldChangeState(TonicKeyItem* key) override;
 
     TonicKeyItem* activeKey = nullptr;
+
+protected:
+    void switchWasSet(bool toHeader) override;
 };

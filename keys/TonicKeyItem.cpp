@@ -1,7 +1,9 @@
 #include "keys/TonicKeyItem.h"
 
 #include "app/MainWnd.h"
+#include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
+#include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
 #include "keys/key_roles.h"
 #include "keys/tonic_names.h"
@@ -64,14 +66,24 @@ void TonicKeyItem::becomeTonic()
     controller->setActiveKey(this);
 }
 
+void TonicKeyItem::flipDegree()
+{
+    if (on)
+        setOff();
+    else
+        setOn();
+    const auto* controller = dynamic_cast<ScaleKeyController*>(parentCtrl);
+    if (controller && mainWnd->headerController)
+        mainWnd->headerController->storeScale(controller->switchOn, controller->scaleModifier());
+    mainWnd->checkScaleMatches(true);
+}
+
 void TonicKeyItem::changeState(bool update)
 {
     if (type == tonic_key_tonic)
         becomeTonic();
-    else if (on)
-        setOff();
     else
-        setOn();
+        flipDegree();
     if (update) {
         mainWnd->powerItem->changeScaleByTonic();
         mainWnd->powerItem->setKeysDeactive();

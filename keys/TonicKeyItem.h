@@ -45,4 +45,5 @@ protected:
 
 private:
     void becomeTonic();
+    void flipDegree();
 };

@@ -56,6 +56,11 @@ int pitch(const QGraphicsItem* item)
     return read(item, ROLE_PITCH).toInt();
 }
 
+bool isHeader(const QGraphicsItem* item)
+{
+    return reads(item, ROLE_SIDE, QLatin1String("header"));
+}
+
 void setPitch(QGraphicsItem* item, int pitch)
 {
     write(item, ROLE_PITCH, pitch);
@@ -171,6 +176,16 @@ int velocity(const QGraphicsItem* item)
 void setVelocity(QGraphicsItem* item, int velocity)
 {
     write(item, ROLE_VELOCITY, velocity);
+}
+
+int headerSlot(const QGraphicsItem* item)
+{
+    return read(item, ROLE_HEADER_SLOT).toInt();
+}
+
+void setHeaderSlot(QGraphicsItem* item, int pitch)
+{
+    write(item, ROLE_HEADER_SLOT, pitch);
 }
 
 int blackOut(const QGraphicsItem* item)

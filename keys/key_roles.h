@@ -12,11 +12,12 @@ enum key_role {
     ROLE_STATE = 4,       ///< string: "on" or "off", selector keys
     ROLE_SOUNDED_OUT = 7, ///< int: the out pitch that the last push of this in key sounded
     ROLE_IN_SCALE = 8,    ///< string: "on" or "off", in keys
-    ROLE_ACTIVITY = 44,   ///< string: "active" or "deactive", in keys; unset counts as active
-    ROLE_BLACK_OUT = 77,  ///< int: read by findAndReleaseBlackOut() only, written by nobody
-    ROLE_TARGET = 99,     ///< int, or the string "-1", on in keys; "on" or "off" on out keys
-    ROLE_OUT_EDGE = 100,  ///< string: "pushed" or "released", out keys
-    ROLE_VELOCITY = 555   ///< int: velocity of the MIDI event being processed, 0 outside it
+    ROLE_HEADER_SLOT = 12, ///< int: MIDI note number of a header's black key
+    ROLE_ACTIVITY = 44,    ///< string: "active" or "deactive", in keys; unset counts as active
+    ROLE_BLACK_OUT = 77,   ///< int: read by findAndReleaseBlackOut() only, written by nobody
+    ROLE_TARGET = 99,      ///< int, or the string "-1", on in keys; "on" or "off" on out keys
+    ROLE_OUT_EDGE = 100,   ///< string: "pushed" or "released", out keys
+    ROLE_VELOCITY = 555    ///< int: velocity of the MIDI event being processed, 0 outside it
 };
 
 /// Typed doors to the item data. A null item reads as an item without data, and what is written to it is
@@ -29,6 +30,7 @@ inline constexpr int noTarget = -1;
 void setSide(QGraphicsItem* item, const QString& side);
 [[nodiscard]] bool isIn(const QGraphicsItem* item);
 [[nodiscard]] bool isOut(const QGraphicsItem* item);
+[[nodiscard]] bool isHeader(const QGraphicsItem* item);
 
 /// MIDI note number of a key, index of a selector key; 0 for an item that is no key.
 [[nodiscard]] int pitch(const QGraphicsItem* item);
@@ -71,6 +73,10 @@ void setEdgeReleased(QGraphicsItem* item, bool released);
 
 [[nodiscard]] int velocity(const QGraphicsItem* item);
 void setVelocity(QGraphicsItem* item, int velocity);
+
+/// The black key of a header, as a MIDI note number; 0 on any other item.
+[[nodiscard]] int headerSlot(const QGraphicsItem* item);
+void setHeaderSlot(QGraphicsItem* item, int pitch);
 
 [[nodiscard]] int blackOut(const QGraphicsItem* item);
 

@@ -99,7 +99,7 @@ void TestMessageRoad::everyThreeByteMessage()
         for (int note = 0; note < 128; ++note)
             for (const int velocity : {0, 1, 64, 127}) {
                 setPower(power);
-                if (model.power != power)
+                if (model.presets.power != power)
                     model.setPower(power);
                 model.held[static_cast<std::size_t>(note)] = held;
                 window->inNoteHeld[note] = held ? 1 : 0;
@@ -108,7 +108,7 @@ void TestMessageRoad::everyThreeByteMessage()
                 const auto got = port->take();
                 if (got != model.sent ||
                     (window->inNoteHeld.at(note) == 1) != model.held[static_cast<std::size_t>(note)] ||
-                    window->powerItem->isSwitchOn() != model.power)
+                    window->powerItem->isSwitchOn() != model.presets.power)
                     QFAIL(qPrintable(QStringLiteral("%1 %2 %3").arg(status).arg(note).arg(velocity)));
                 model.sent.clear();
             }
@@ -341,7 +341,7 @@ void TestMessageRoad::randomStreams()
         model.receive(message);
         play(QList<int>(message.begin(), message.end()));
         QCOMPARE(port->take(), model.sent);
-        QCOMPARE(window->powerItem->isSwitchOn(), model.power);
+        QCOMPARE(window->powerItem->isSwitchOn(), model.presets.power);
         model.sent.clear();
     }
 }

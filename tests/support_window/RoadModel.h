@@ -1,12 +1,12 @@
 #pragma once
 
-#include "MappingRule.h"
+#include "FactoryPresets.h"
 
 #include <array>
 #include <vector>
 
 /// What the program must do with a stream of messages, told independently of it: which keys are held, what
-/// they sounded, and which bytes leave.
+/// they sounded, which preset is recalled, and which bytes leave.
 class RoadModel
 {
 public:
@@ -16,19 +16,18 @@ public:
 
     void setPower(bool on)
     {
-        power = on;
+        presets.power = on;
         remap();
     }
-    void setTonic(int index)
+    /// Semitones above C.
+    void setTonic(int semitones)
     {
-        tonic = index;
+        presets.chooseTonic(semitones);
         remap();
     }
-    /// Twelve letters, "x" for on.
     void setScale(const char* word)
     {
-        for (std::size_t n = 0; n < 12; ++n)
-            degrees[n] = word[n] == 'x';
+        presets.word = word;
         remap();
     }
 
@@ -42,21 +41,12 @@ public:
             send(bytes[0], bytes[1], bytes[2]);
     }
 
-    bool power = false;
+    PresetModel presets = factoryPresets();
     std::array<bool, 128> held{};
     std::vector<Message> sent;
 
 private:
-    static constexpr int powerKey = 49;
-
-    void remap()
-    {
-        const MappingRule rule(tonic, degrees);
-        for (int key = 21; key <= 108; ++key) {
-            const int mapped = isWhite(key) ? rule.target.at(key) : -1;
-            target[static_cast<std::size_t>(key)] = power ? mapped : key;
-        }
-    }
+    void remap() { target = presets.mapping(); }
 
     void note(int status, int key, int velocity)
     {
@@ -66,25 +56,31 @@ private:
         const bool noteOff = status < 0x90;
         if (!held[at] && velocity != 0 && status == 0x90) {
             held[at] = true;
-            if (key == powerKey)
-                setPower(!power);
-            else
-                press(at, velocity);
+            press(key, velocity);
         } else if (held[at] && (velocity == 0 || noteOff)) {
             held[at] = false;
-            release(at);
+            release(key);
         }
     }
 
-    void press(std::size_t key, int velocity)
+    void press(int key, int velocity)
     {
-        if (target[key] == -1)
+        if (key == presets.powerKey) {
+            setPower(!presets.power);
             return;
-        sounded[key] = target[key];
-        send(0x90, target[key], velocity);
+        }
+        if (target[key] != -1) {
+            sounded[key] = target[key];
+            send(0x90, target[key], velocity);
+        }
+        if (presets.power && !isWhite(key)) {
+            presets.recall(PresetModel::indexOf(key));
+            remap();
+        }
+        presets.match();
     }
 
-    void release(std::size_t key)
+    void release(int key)
     {
         // Silent keys release nothing, not even what they sounded before they fell silent.
         if (target[key] == -1 || sounded[key] == 0)
@@ -98,8 +94,6 @@ private:
                         static_cast<unsigned char>(second)});
     }
 
-    int tonic = 0;
-    std::bitset<12> degrees{0b101010110101}; // Ionian, degree 0 in the lowest bit
-    std::array<int, 128> target{};
-    std::array<int, 128> sounded{};
+    std::map<int, int> target;
+    std::map<int, int> sounded;
 };

@@ -1,0 +1,135 @@
+// The presets on the stage, and the scale library that follows the selectors.
+
+#include "app/MainWnd.h"
+
+#include "headers/DiagramScene.h"
+#include "headers/HeaderController.h"
+#include "keys/PowerItem.h"
+#include "keys/ScaleKeyController.h"
+#include "keys/key_roles.h"
+#include "library/default_tables.h"
+#include "logging/categories.h"
+
+#include <QMessageBox>
+
+namespace {
+
+constexpr int octaves = 7;
+constexpr int octaveKeys = 12, octaveWidth = 119; // seven white keys
+constexpr int firstActiveKey = 63;
+
+// The flags of one octave; boxes stand in two rows so that they do not touch:
+//       [F#]  [G#] [A#]
+//  [C#]  |[D#] |   |
+struct Slot
+{
+    int keyNumber;
+    header_type type;
+    QPoint position;
+};
+
+constexpr int flagsPerOctave = 5;
+const Slot lowestFlag = {22, header_a_sharp, {16, 1}};
+const Slot firstOctave[flagsPerOctave] = {{25, header_c_sharp, {33, 28}},
+                                          {27, header_d_sharp, {67, 28}},
+                                          {30, header_f_sharp, {74, 1}},
+                                          {32, header_g_sharp, {109, 1}},
+                                          {34, header_a_sharp, {135, 1}}};
+
+} // namespace
+
+void MainWnd::createHeaders()
+{
+    headerController = new HeaderController(this);
+    int index = 0;
+    const auto create = [&](const Slot& slot, int octave) {
+        const int key = slot.keyNumber + octaveKeys * octave;
+        createHeaderItem(QStringLiteral("header"), key, index++, slot.type,
+                         slot.position + QPoint(octaveWidth * octave, 0),
+                         key == firstActiveKey ? header_active : header_deactive);
+    };
+    create(lowestFlag, 0);
+    for (int octave = 0; octave < octaves; ++octave)
+        for (const Slot& slot : firstOctave)
+            create(slot, octave);
+}
+
+void MainWnd::createHeaderItem(const QString& name, int keyNumber, int headerIndex, header_type type,
+                               QPointF position, header_status status)
+{
+    if (!headerController) {
+        qCDebug(lcHeaders) << "HeaderController must be initialized before creating any Header";
+        return;
+    }
+    auto* header =
+        new HeaderItem(headerController, type, resetHeaderData.at(static_cast<std::size_t>(headerIndex)));
+    header->homePos = position;
+    header->setPos(position);
+    key_roles::setSide(header, name);
+    key_roles::setHeaderSlot(header, keyNumber);
+    key_roles::setPitch(header, keyNumber);
+    key_roles::setName(header, QStringLiteral("#"));
+    headerController->headers.append(header);
+    ui.inKeyboardGraphicsView->scene()->addItem(header);
+    header->setStatus(status);
+}
+
+void MainWnd::checkScaleMatches(bool)
+{
+    if (!centerScreen || !headerController || !scaleController)
+        return; // still under construction
+    const QString word = static_cast<ScaleKeyController*>(scaleController)->scaleModifier();
+    if (word.isEmpty())
+        return;
+    if (headerController->activeHeader)
+        headerController->activeHeader->updateScenic();
+    const QString current = library.currentCategory();
+    const int index = library.indexOfScaleFromCategory(current, word, 0);
+    library.setCurrentScaleIndex(current, index);
+    if (index >= 0)
+        return;
+    const QList<QString> others = library.findCategoriesWithScale(word);
+    if (others.isEmpty())
+        return;
+    library.setCurrentCategory(others.first());
+    library.setCurrentScaleIndex(others.first(), library.indexOfScaleFromCategory(others.first(), word, 0));
+}
+
+bool MainWnd::findPowerItemPosition(QPointF pos)
+{
+    auto* scene = qobject_cast<DiagramScene*>(ui.inKeyboardGraphicsView->scene());
+    if (!powerItem || !scene)
+        return false;
+    const qreal halfHeight = powerItem->boundingRect().height() / 2;
+    const QRectF place(pos.x() + 3, pos.y() + halfHeight, 10, halfHeight);
+    headerController->setHeadersStatus(true); // hidden items are not found
+    const auto items = scene->items(place, Qt::IntersectsItemShape, Qt::DescendingOrder);
+    headerController->setHeadersStatus(powerItem->isSwitchOn());
+    for (QGraphicsItem* item : items) {
+        if (!key_roles::isHeader(item) || !scene->swapHeader(powerItem, static_cast<HeaderItem*>(item)))
+            continue;
+        qCDebug(lcHeaders) << "findPowerItemPosition found and swap";
+        return true;
+    }
+    qCDebug(lcHeaders) << "findPowerItemPosition not found";
+    powerItem->restorePos();
+    return false;
+}
+
+bool MainWnd::confirmAlert(const QString& text, const QString& accept)
+{
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("Sorvane"), text, QMessageBox::NoButton, this);
+    const QAbstractButton* acceptButton = box.addButton(accept, QMessageBox::AcceptRole);
+    box.setDefaultButton(box.addButton(tr("Cancel"), QMessageBox::RejectRole));
+    // The window's filter swallows these keys before the box can see them.
+    connect(this, &MainWnd::specialKeyPressed, &box, [&box](int key) {
+        if (key == Qt::Key_Escape)
+            box.reject();
+        else if (auto* button = qobject_cast<QAbstractButton*>(box.focusWidget()))
+            button->click();
+    });
+    dialogOpen = true;
+    box.exec();
+    dialogOpen = false;
+    return box.clickedButton() == acceptButton;
+}

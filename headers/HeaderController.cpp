@@ -1,0 +1,167 @@
+// Which preset is active, and what passes between it and the selectors.
+
+#include "headers/HeaderController.h"
+
+#include "app/MainWnd.h"
+#include "headers/selector_access.h"
+#include "keys/PowerItem.h"
+#include "keys/ScaleKeyController.h"
+#include "keys/TonicKeyController.h"
+#include "keys/key_roles.h"
+
+using namespace selector_access;
+
+namespace {
+
+bool isUnderPowerButton(int keyNumber)
+{
+    return keyNumber == key_roles::pitch(mainWnd->powerItem);
+}
+
+} // namespace
+
+void HeaderController::setActiveHeader(HeaderItem* item, bool store)
+{
+    if (!item || mainWnd->dialogOpen)
+        return;
+    if (item != activeHeader) {
+        const int offset = leaveActiveHeader(store);
+        activeHeader = item;
+        item->setStatus(header_active);
+        if (store && mainWnd->powerItem->isSwitchOn())
+            loadSelectors(item->record, offset);
+    }
+    mainWnd->checkScaleMatches(true);
+}
+
+int HeaderController::leaveActiveHeader(bool store)
+{
+    if (!activeHeader)
+        return 0;
+    activeHeader->setStatus(header_deactive);
+    if (store)
+        saveSelectors(activeHeader->record);
+    activeHeader->updateScenic();
+    return store ? anchorX() : 0;
+}
+
+void HeaderController::saveSelectors(header_data& data) const
+{
+    data.tonicData = tonic().tonicModifier();
+    data.tonicOn = tonic().switchOn;
+    storePitchPosition(data, data.tonicOn);
+    data.scaleData = scale().scaleModifier();
+    data.scaleOn = scale().switchOn;
+}
+
+// A switch that is off in the record leaves its selector's keys as they stand: the preset does not touch
+// them.
+void HeaderController::loadSelectors(const header_data& data, int offset)
+{
+    if (data.tonicOn) {
+        moveAnchors(-offset);
+        restorePitchPosition(data);
+    }
+    setSwitch(tonic(), data.tonicOn, false);
+    const bool update = !data.scaleOn;
+    const bool tonicMapped = tonic().setTonicModifier(data.tonicData, update, false) && update;
+    setSwitch(scale(), data.scaleOn, false);
+    const bool scaleMapped = scale().setScaleModifier(data.scaleData, false);
+    // A record may hold a tonic beside a scale that is no word, and the anchors may have moved for nothing.
+    if (data.tonicOn && !tonicMapped && !scaleMapped)
+        remap();
+}
+
+void HeaderController::setActiveHeaderPrev()
+{
+    recallNeighbour(-1);
+}
+
+void HeaderController::setActiveHeaderNext()
+{
+    recallNeighbour(1);
+}
+
+void HeaderController::recallNeighbour(int step)
+{
+    if (!activeHeader)
+        return;
+    using namespace pitch_mapping;
+    for (int i = key_roles::pitch(activeHeader) + step; i >= lowestPitch && i <= highestPitch; i += step) {
+        if (!key_roles::isBlack(mainWnd->findInNote(i)) || isUnderPowerButton(i))
+            continue;
+        setActiveHeader(findHeader(i), true);
+        return;
+    }
+}
+
+HeaderItem* HeaderController::findHeader(int keyNumber) const
+{
+    for (HeaderItem* header : headers)
+        if (key_roles::pitch(header) == keyNumber)
+            return header;
+    return nullptr;
+}
+
+HeaderItem* HeaderController::findHeader(header_status status) const
+{
+    for (HeaderItem* header : headers)
+        if (header->status() == status)
+            return header;
+    return nullptr;
+}
+
+void HeaderController::setHeadersStatus(bool visible)
+{
+    for (HeaderItem* header : qAsConst(headers))
+        header->setVisible(visible && !isUnderPowerButton(key_roles::pitch(header)));
+}
+
+void HeaderController::storePitchPosition(header_data& data, bool valid) const
+{
+    if (valid)
+        data.anchorPos = anchorX();
+    data.anchorValid = valid;
+}
+
+void HeaderController::restorePitchPosition(const header_data& data) const
+{
+    if (data.anchorValid)
+        moveAnchors(data.anchorPos);
+}
+
+void HeaderController::storeTonic(const QString& name)
+{
+    if (!activeHeader)
+        return;
+    activeHeader->record.tonicOn = true;
+    if (!name.isEmpty())
+        activeHeader->record.tonicData = name;
+    activeHeader->setNameTonic(name);
+}
+
+void HeaderController::storeScale(bool on, const QString& word)
+{
+    if (!activeHeader)
+        return;
+    activeHeader->record.scaleOn = on;
+    activeHeader->record.scaleData = word;
+    activeHeader->updateScenic();
+}
+
+void HeaderController::clearScaleNames()
+{
+    if (!activeHeader)
+        return;
+    activeHeader->setNameScenic1({});
+    activeHeader->setNameScenic2({});
+}
+
+void HeaderController::refreshActiveHeader(bool learnScale)
+{
+    if (!activeHeader)
+        return;
+    if (learnScale && activeHeader->record.scaleOn)
+        activeHeader->record.scaleData = scale().scaleModifier();
+    activeHeader->updateScenic();
+}

@@ -1,0 +1,87 @@
+// The records of all headers: temporary scales, user numbers, bulk reads and writes.
+
+#include "headers/HeaderController.h"
+
+#include "app/MainWnd.h"
+#include "keys/key_roles.h"
+
+#include <algorithm>
+#include <bitset>
+
+namespace {
+
+constexpr int lastUserNumber = 108;
+
+bool holds(const HeaderItem* header, const QString& word)
+{
+    return header && header->record.scaleOn && header->record.scaleData == word;
+}
+
+} // namespace
+
+void HeaderController::removeUnusedTempRecords()
+{
+    const QList<QString> words = mainWnd->library.customScales();
+    for (const QString& word : words) {
+        // An empty word cannot be held: it is no scale.
+        const bool used = !word.isEmpty() && std::any_of(headers.cbegin(), headers.cend(),
+                                                         [&](const auto* h) { return holds(h, word); });
+        if (!used)
+            mainWnd->library.removeScale(word);
+    }
+}
+
+int HeaderController::findMinUserNum() const
+{
+    std::bitset<lastUserNumber + 1> taken;
+    for (const HeaderItem* header : headers) {
+        const int number = header->record.nameScenic2.toInt();
+        if (header->record.nameScenic1 == QLatin1String("User") && number >= 1 && number <= lastUserNumber)
+            taken.set(static_cast<std::size_t>(number));
+    }
+    for (int number = 1; number <= lastUserNumber; ++number)
+        if (!taken[static_cast<std::size_t>(number)])
+            return number;
+    return 0;
+}
+
+void HeaderController::getHeadersPosition(QList<QPointF>& positions) const
+{
+    positions.clear();
+    for (const HeaderItem* header : headers)
+        positions.append(header->pos());
+}
+
+void HeaderController::getHeadersData(QList<header_data>& data) const
+{
+    data.clear();
+    for (const HeaderItem* header : headers)
+        data.append(header->record);
+}
+
+void HeaderController::updatePostions(const QList<QPointF>& positions)
+{
+    const int count = std::min(headers.size(), positions.size());
+    for (int i = 0; i < count; ++i)
+        headers.at(i)->setPos(positions.at(i));
+}
+
+// All records stand before the first name is looked up, so that a number held by a record that is about to go
+// does not count as taken.
+void HeaderController::reloadHeaders(const QList<header_data>& data)
+{
+    const int count = std::min(headers.size(), data.size());
+    for (int i = 0; i < count; ++i)
+        headers.at(i)->record = data.at(i);
+    for (int i = 0; i < count; ++i) {
+        headers.at(i)->updateScenic();
+        headers.at(i)->update();
+    }
+}
+
+void HeaderController::updateHeaderScenics(const QString& word)
+{
+    for (HeaderItem* header : qAsConst(headers))
+        if (word.isEmpty() || header->record.scaleData == word)
+            header->updateScenic();
+}

@@ -1,0 +1,280 @@
+#include "headers/HeaderItem.h"
+
+#include "app/MainWnd.h"
+#include "headers/HeaderController.h"
+#include "keys/key_roles.h"
+#include "keys/pictures.h"
+#include "logging/categories.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+constexpr auto unsetStatus = static_cast<header_status>(-1);
+
+/// Where the texts stand on a flag; right and bottom belong to the rectangles.
+struct Layout
+{
+    QRect name1, name2, tonic;
+    QPointF power;
+};
+
+QRect corners(int left, int top, int right, int bottom)
+{
+    return {QPoint(left, top), QPoint(right, bottom)};
+}
+
+const Layout& layoutOf(header_type type)
+{
+    static const Layout layouts[] = {
+        {corners(2, 3, 31, 13), corners(2, 13, 31, 23), corners(19, 40, 32, 53), {25, 60}},
+        {corners(2, 3, 31, 13), corners(2, 13, 31, 23), corners(2, 40, 15, 53), {8, 60}},
+        {corners(2, 3, 33, 13), corners(2, 13, 33, 23), corners(29, 67, 42, 80), {35, 87}},
+        {corners(2, 3, 33, 13), corners(2, 13, 33, 23), corners(11, 67, 24, 80), {17, 87}},
+        {corners(11, 3, 41, 13), corners(11, 13, 41, 23), corners(2, 67, 15, 80), {8, 87}},
+    };
+    return layouts[type];
+}
+
+QPixmap picture(header_type type, const char* suffix)
+{
+    return pictures::load(
+        QStringLiteral(":/Resources/Headers/Header%1sharp_%2.png").arg(type + 1).arg(QLatin1String(suffix)));
+}
+
+QPixmap statusPicture(header_type type, header_status status)
+{
+    static constexpr const char* suffixes[] = {"deactive", "active", "ActiveDropShadow", "Switch", "Switch"};
+    return picture(type, suffixes[status]);
+}
+
+QColor textColour(header_status status)
+{
+    const bool lit =
+        status == header_active || status == header_active_shadow || status == header_switch_active;
+    return lit ? QColor(0xFF, 0xFF, 0x00) : QColor(0x00, 0xC9, 0xFF);
+}
+
+QFont flagFont()
+{
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(8);
+    return font;
+}
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("HeaderItem", text);
+}
+
+} // namespace
+
+HeaderItem::HeaderItem(HeaderController* owner, header_type headerType, const header_data& data)
+    : controller(owner), type(headerType), record(data), font(flagFont())
+{
+    takeNamesFromLibrary();
+    currentStatus = unsetStatus;
+    setStatus(header_deactive);
+    key_roles::setPitch(this, -1); // until it is set on its key
+    setAcceptHoverEvents(true);
+    updateScenic();
+}
+
+void HeaderItem::takeNamesFromLibrary()
+{
+    scale_data scale;
+    if (!mainWnd || !mainWnd->library.getScaleData(record.scaleData, scale, DatabaseLibrary::AnyRole))
+        return;
+    record.nameScenic1 = scale.abbr1;
+    record.nameScenic2 = scale.abbr2;
+}
+
+void HeaderItem::applyLayout()
+{
+    const Layout& layout = layoutOf(type);
+    nameRect1 = layout.name1;
+    nameRect2 = layout.name2;
+    tonicRect = layout.tonic;
+    powerPoint = layout.power;
+}
+
+void HeaderItem::setStatus(header_status status)
+{
+    if (status == currentStatus)
+        return;
+    currentStatus = status;
+    if (status == header_active && mainWnd && mainWnd->headerController)
+        mainWnd->headerController->setActiveHeader(this, false);
+    applyLayout();
+    const QPixmap face = statusPicture(type, status);
+    setPixmap(face);
+    if (overlaid)
+        savedPixmap = face;
+}
+
+QPainterPath HeaderItem::shape() const
+{
+    const QRectF box = QRectF(nameRect1.united(nameRect2)).adjusted(-2, -3, 2, 2);
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    path.addRect(box);
+    path.addRect(
+        QRectF(QPointF(tonicRect.left(), box.top()), QPointF(tonicRect.right() + 1, powerPoint.y())));
+    return path;
+}
+
+// Kept: the names are part of the record, but the face carries the tonic alone.
+void HeaderItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget)
+{
+    QGraphicsPixmapItem::paint(painter, option, widget);
+    if (!record.tonicOn || record.nameTonic.isEmpty())
+        return;
+    painter->setFont(font);
+    painter->setPen(textColour(currentStatus));
+    painter->drawText(tonicRect, Qt::AlignCenter, record.nameTonic);
+}
+
+void HeaderItem::updateScenic()
+{
+    if (!mainWnd || !mainWnd->headerController)
+        return;
+    mainWnd->headerController->removeUnusedTempRecords();
+    if (record.scaleOn && !record.scaleData.isEmpty()) {
+        nameAfterLibrary();
+        return;
+    }
+    setNameScenic1({});
+    setNameScenic2({});
+}
+
+void HeaderItem::nameAfterLibrary()
+{
+    scale_data scale;
+    if (!mainWnd->library.getScaleData(record.scaleData, scale, DatabaseLibrary::AnyRole)) {
+        // Its own number must not count as taken.
+        record.nameScenic1.clear();
+        record.nameScenic2.clear();
+        scale.scale = record.scaleData;
+        scale.abbr1 = translated("User");
+        scale.abbr2 = QString::number(mainWnd->headerController->findMinUserNum());
+        scale.title = scale.abbr1 + QLatin1Char(' ') + scale.abbr2;
+        mainWnd->library.setScaleData(record.scaleData, scale, DatabaseLibrary::CustomRole);
+    }
+    // A played note comes by here: what stays the same is not painted again.
+    if (record.nameScenic1 != scale.abbr1)
+        setNameScenic1(scale.abbr1);
+    if (record.nameScenic2 != scale.abbr2)
+        setNameScenic2(scale.abbr2);
+}
+
+void HeaderItem::setNameScenic1(const QString& name)
+{
+    record.nameScenic1 = name;
+    update(nameRect1);
+}
+
+void HeaderItem::setNameScenic2(const QString& name)
+{
+    record.nameScenic2 = name;
+    update(nameRect2);
+}
+
+void HeaderItem::setNameTonic(const QString& name)
+{
+    record.nameTonic = name;
+    update(tonicRect);
+}
+
+QString HeaderItem::describe() const
+{
+    const QString tonic = record.nameTonic.isEmpty() ? record.tonicData : record.nameTonic;
+    const bool hasTonic = record.tonicOn && !tonic.isEmpty();
+    const bool hasScale = record.scaleOn && !record.scaleData.isEmpty();
+    scale_data scale;
+    if (hasScale)
+        mainWnd->library.getScaleData(record.scaleData, scale, DatabaseLibrary::AnyRole);
+    QStringList locked;
+    if (hasTonic)
+        locked << translated("tonic");
+    if (hasScale)
+        locked << translated("scale");
+    const QStringList lines = {
+        translated("Tonic: %1").arg(hasTonic ? tonic : translated("as it is")),
+        hasScale ? translated("Scale: %1 (%2 %3)").arg(scale.title, record.nameScenic1, record.nameScenic2)
+                 : translated("Scale: %1").arg(translated("as it is")),
+        translated("Locked: %1")
+            .arg(locked.isEmpty() ? translated("nothing") : locked.join(QLatin1String(", ")))};
+    return lines.join(QLatin1Char('\n'));
+}
+
+void HeaderItem::copyHeadersData(const HeaderItem* source)
+{
+    qCDebug(lcHeaders) << "HeaderItem::copyHeaderData";
+    const header_data& other = source->record;
+    setNameScenic1(other.nameScenic1);
+    setNameScenic2(other.nameScenic2);
+    setNameTonic(other.nameTonic);
+    if (other.tonicOn) {
+        record.tonicOn = other.tonicOn;
+        record.tonicData = other.tonicData;
+        record.anchorValid = other.anchorValid;
+        record.anchorPos = other.anchorPos;
+    }
+    if (other.scaleOn) {
+        record.scaleOn = other.scaleOn;
+        record.scaleData = other.scaleData;
+    }
+}
+
+void HeaderItem::swapHeadersData(HeaderItem* other)
+{
+    if (other == this)
+        return;
+    std::swap(record, other->record);
+    updateScenic();
+    other->updateScenic();
+    update();
+    other->update();
+}
+
+void HeaderItem::swapHeadersStatus(HeaderItem* other)
+{
+    if (other == this)
+        return;
+    std::swap(currentStatus, other->currentStatus);
+    updateScenic();
+    other->updateScenic();
+}
+
+void HeaderItem::overlayContextMenu(bool on)
+{
+    if (on) {
+        savedPixmap = pixmap();
+        const QPixmap top = picture(type, "SwitchContextMenu");
+        setPixmap(pictures::overlay(savedPixmap, top,
+                                    QRectF(QPointF(), QSizeF(top.size()) / top.devicePixelRatio()).toRect()));
+    } else if (!savedPixmap.isNull()) {
+        setPixmap(savedPixmap);
+    }
+    overlaid = on;
+}
+
+void HeaderItem::restorePos()
+{
+    qCDebug(lcHeaders) << "Headeritem :: restorePos" << homePos;
+    setPos(homePos);
+}
+
+void HeaderItem::contextMenuEvent(QGraphicsSceneContextMenuEvent* event)
+{
+    if (controller)
+        controller->contextMenuEvent(this, event);
+}
+
+void HeaderItem::hoverEnterEvent(QGraphicsSceneHoverEvent* event)
+{
+    // Made when it may be needed, not when a note or a recall changes what it says.
+    setToolTip(describe());
+    ResizableItem::hoverEnterEvent(event);
+}
