@@ -3,6 +3,7 @@
 #include "RecordingPort.h"
 #include "app/MainWnd.h"
 #include "app/MidiService.h"
+#include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
 #include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
@@ -20,19 +21,46 @@ void drain(RecordingPort& port)
     port.clear();
 }
 
-/// Notes over the whole keyboard, white keys and silent black ones alike, power on in D Ionian.
+/// White keys over the whole keyboard, power on in D Ionian: press and release.
 void notePair(benchmark::State& state)
 {
     RecordingPort& port = *static_cast<RecordingPort*>(mainWnd->outPorts.first());
-    int note = 21;
+    const auto& whites = pitch_mapping::whitePitches();
+    std::size_t i = 0;
     for (auto _ : state) {
-        mainWnd->pushKeySlot({0x90, note, 100});
-        mainWnd->pushKeySlot({0x80, note, 0});
-        note = note == 108 ? 21 : note + 1;
-        if (note == 49) // toggles the power
-            ++note;
-        if (note == 21)
+        mainWnd->pushKeySlot({0x90, whites[i], 100});
+        mainWnd->pushKeySlot({0x80, whites[i], 0});
+        i = (i + 1) % whites.size();
+        if (i == 0)
             drain(port);
+    }
+}
+
+/// The same without presets: what a note cost before there were any.
+void notePairWithoutPresets(benchmark::State& state)
+{
+    HeaderController* presets = mainWnd->headerController;
+    mainWnd->headerController = nullptr;
+    notePair(state);
+    mainWnd->headerController = presets;
+}
+
+/// A black key recalls one of two presets that differ in tonic and scale; the window is painted between the
+/// presses, as it is on stage. The release is not counted.
+void recall(benchmark::State& state)
+{
+    HeaderController* presets = mainWnd->headerController;
+    const int keys[] = {66, 82}; // C Lydian, D# Iwato
+    std::size_t i = 0;
+    for (auto _ : state) {
+        i = 1 - i;
+        mainWnd->pushKeySlot({0x90, keys[i], 100});
+        state.PauseTiming();
+        if (presets->activeHeader != presets->findHeader(keys[i]))
+            state.SkipWithError("the preset was not recalled");
+        mainWnd->pushKeySlot({0x80, keys[i], 0});
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
     }
 }
 
@@ -62,6 +90,8 @@ void passThrough(benchmark::State& state)
 }
 
 BENCHMARK(notePair);
+BENCHMARK(notePairWithoutPresets);
+BENCHMARK(recall)->Iterations(500);
 BENCHMARK(remap);
 BENCHMARK(passThrough);
 

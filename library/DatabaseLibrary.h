@@ -35,8 +35,8 @@ public:
     /// Category to scales, the first scale inserted first; an empty category is marked by an empty record.
     /// Custom records are left out.
     void getData(QMap<QString, scale_data>& data) const;
-    /// The reverse of getData(). Each category's values are taken from the last inserted to the first; of two
-    /// records with one word the first one met counts.
+    /// Loads what getData() gave, read back from a file in the file's order. Each category's values are taken
+    /// from the last inserted to the first; of two records with one word the first one met counts.
     void setData(const QMap<QString, scale_data>& data);
 
     // Records

@@ -126,6 +126,8 @@ int DatabaseLibrary::currentScaleIndex(const QString& category) const
 
 QString DatabaseLibrary::currentScale() const
 {
+    if (d->currentCategoryIdx < 0 || d->currentCategoryIdx >= categoryCount())
+        return {};
     const QString category = currentCategory();
     return scaleFromCategory(category, currentScaleIndex(category));
 }

@@ -94,9 +94,9 @@ void DatabaseLibrary::moveScale(int from, int to, const QString& oldCategory, co
         moveScale(from, to, oldCategory);
         return;
     }
-    const QString word = scaleFromCategory(oldCategory, from);
-    if (word.isNull() || !d->wordsOf(newCategory))
+    if (from < 0 || from >= scalesCountFromCategory(oldCategory) || !d->wordsOf(newCategory))
         return;
+    const QString word = scaleFromCategory(oldCategory, from);
     removeScaleFromCategory(oldCategory, from);
     insertScaleToCategory(newCategory, to, word);
 }
