@@ -9,6 +9,7 @@
 #include "keys/TonicKeyController.h"
 #include "library/default_tables.h"
 
+#include <QFile>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QMenu>
 
@@ -18,10 +19,17 @@ namespace {
 
 const QPointF powerButtonReset(407, 28); // over C#4
 
+QString menuStyle()
+{
+    QFile file(QStringLiteral(":/Resources/Headers/menu.qss"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 } // namespace
 
 HeaderController::HeaderController(QWidget* window) : QObject(window), menu(new QMenu(window))
 {
+    menu->setStyleSheet(menuStyle());
     addAction(tr("Copy Header"), &HeaderController::copyHdr);
     addAction(tr("Paste Header"), &HeaderController::pasteHdr);
     pasteAction = actions.last();
