@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QPointF>
 
+#include <functional>
+
 class QAction;
 class QGraphicsSceneContextMenuEvent;
 class QMenu;
@@ -94,6 +96,7 @@ private:
     [[nodiscard]] int leaveActiveHeader(bool store);
     void saveSelectors(header_data& data) const;
     void loadSelectors(const header_data& data, int offset);
+    void visitContextHeader(const std::function<void()>& change);
     void setTonicLock(bool on);
     void setScaleLock(bool on);
     void resetSelectors(const header_data& data) const;

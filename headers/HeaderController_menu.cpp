@@ -89,6 +89,16 @@ void HeaderController::pasteHdr()
     mainWnd->checkScaleMatches(true);
 }
 
+/// Visits the context header as the active one for as long as `change` takes.
+void HeaderController::visitContextHeader(const std::function<void()>& change)
+{
+    HeaderItem* const active = activeHeader;
+    setActiveHeader(contextHeader, true);
+    contextHeader->setStatus(header_deactive);
+    change();
+    setActiveHeader(active, true);
+}
+
 void HeaderController::setTonicLock(bool on)
 {
     if (!contextHeader)
@@ -97,13 +107,9 @@ void HeaderController::setTonicLock(bool on)
     if (contextHeader == activeHeader) {
         setSwitch(tonic(), on, true);
         contextHeader->record.tonicOn = on; // the selector marks a tonic as on even when it goes off
-        return;
+    } else {
+        visitContextHeader([this] { contextHeader->setNameTonic(tonic().tonicModifier()); });
     }
-    HeaderItem* const active = activeHeader;
-    setActiveHeader(contextHeader, true);
-    contextHeader->setStatus(header_deactive);
-    contextHeader->setNameTonic(tonic().tonicModifier());
-    setActiveHeader(active, true);
 }
 
 void HeaderController::setScaleLock(bool on)
@@ -111,15 +117,10 @@ void HeaderController::setScaleLock(bool on)
     if (!contextHeader)
         return;
     contextHeader->record.scaleOn = on;
-    if (contextHeader == activeHeader) {
+    if (contextHeader == activeHeader)
         setSwitch(scale(), on, true);
-        return;
-    }
-    HeaderItem* const active = activeHeader;
-    setActiveHeader(contextHeader, true);
-    contextHeader->setStatus(header_deactive);
-    contextHeader->updateScenic();
-    setActiveHeader(active, true);
+    else
+        visitContextHeader([this] { contextHeader->updateScenic(); });
 }
 
 void HeaderController::lockTonic()

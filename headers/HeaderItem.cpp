@@ -70,8 +70,8 @@ QString translated(const char* text)
 
 } // namespace
 
-HeaderItem::HeaderItem(HeaderController* owner, header_type headerType, const header_data& data)
-    : controller(owner), type(headerType), record(data), font(flagFont())
+HeaderItem::HeaderItem(HeaderController* owner, header_type kind, const header_data& data)
+    : controller(owner), type(kind), record(data), font(flagFont())
 {
     takeNamesFromLibrary();
     currentStatus = unsetStatus;

@@ -25,7 +25,7 @@ class HeaderItem : public ResizableItem
 {
 public:
     /// Names that the library has for the scale win over those of `data`.
-    HeaderItem(HeaderController* controller, header_type type, const header_data& data);
+    HeaderItem(HeaderController* owner, header_type kind, const header_data& data);
 
     /// The flag itself, not the empty corners of its picture.
     QPainterPath shape() const override;
