@@ -9,7 +9,6 @@
 #include "keys/SwitchItem.h"
 #include "keys/TonicKeyController.h"
 #include "keys/key_roles.h"
-#include "keys/pictures.h"
 #include "library/SettingsStore.h"
 #include "logging/categories.h"
 #include "screen/CenterScreen.h"
@@ -82,7 +81,7 @@ void MainWnd::setUpWindow()
 void MainWnd::createPowerItem()
 {
     powerItem = new PowerItem;
-    powerItem->setPixmap(pictures::load(QStringLiteral(":/Resources/Power/POWERBUTTONOff.png")));
+    powerItem->showSwitch(false);
     powerItem->setFlag(QGraphicsItem::ItemIsMovable);
     powerItem->setLastPos(powerButtonStart);
     key_roles::setSide(powerItem, QStringLiteral("power"));
@@ -93,9 +92,7 @@ void MainWnd::createPowerItem()
 
 void MainWnd::connectSignals()
 {
-    // The mapped notes of a message leave before its forwarded copy would.
-    connect(this, &MainWnd::signalKey, this, &MainWnd::pushKeySlot);
-    connect(this, &MainWnd::signalKey, this, &MainWnd::midiThru);
+    connect(this, &MainWnd::signalKey, this, &MainWnd::receiveMessage);
     connect(centerScreen->inPortList, &QListWidget::itemSelectionChanged, this,
             &MainWnd::inPortSelectionChange);
     connect(centerScreen->outPortList, &QListWidget::itemSelectionChanged, this,
@@ -113,8 +110,7 @@ void MainWnd::installFilters()
 
 void MainWnd::setPower(bool on)
 {
-    powerItem->setPixmap(pictures::load(on ? QStringLiteral(":/Resources/Power/POWERBUTTONOn.png")
-                                           : QStringLiteral(":/Resources/Power/POWERBUTTONOff.png")));
+    powerItem->showSwitch(on);
     powerItem->setSwithOn(on);
     powerItem->changeScaleByTonic();
     powerItem->setAllBlackBlue(on);

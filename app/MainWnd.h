@@ -59,7 +59,8 @@ public:
 
     // Presets and library (MainWnd_presets.cpp)
     /// Makes the preset of a black key: `keyNumber` is its MIDI note number, `headerIndex` the row of
-    /// `resetHeaderData`, 0 to 35; `position` in scene coordinates is its home.
+    /// `resetHeaderData`, 0 to 35; `position` in scene coordinates is its home. Another index or type makes
+    /// none.
     void createHeaderItem(const QString& name, int keyNumber, int headerIndex, header_type type,
                           QPointF position, header_status status);
     /// Follows the word of the scale selector: the active header's names, and the library's current category
@@ -140,6 +141,8 @@ public slots:
     void reject() override;
     void openNewWindow() {} ///< empty: kept so that a later window can hang on it
 
+    /// Plays a message, pushKeySlot() first, then midiThru(); behind a recall that is under way it waits.
+    void receiveMessage(QList<int> message);
     void pushKeySlot(QList<int> message);
     void midiThru(QList<int> message);
     void inPortSelectionChange();
@@ -227,7 +230,6 @@ private:
     QList<QGraphicsItem*> selectorItems; ///< what sleeps with the power off
     QList<QList<int>> waitingMessages;   ///< arrived during a recall
     bool holdMessages = false;
-    bool playingWaiting = false;
     std::array<QGraphicsPixmapItem*, 12> scaleSquares{};
     std::array<QPixmap, 13> squarePlates; ///< by ordinal; 0 is blank
     PortKeeper<RtMidiIn> inPortKeeper{inPorts};

@@ -48,10 +48,6 @@ ResizableItem* MainWnd::findInNote(int note) const
 
 void MainWnd::pushKeySlot(QList<int> message) // NOLINT(performance-unnecessary-value-param): a queued slot
 {
-    if (mustWait()) {
-        waitingMessages.append(message);
-        return;
-    }
     if (message.size() != messageSize)
         return;
     const int status = message.at(0), note = message.at(1), velocity = message.at(2);
@@ -85,42 +81,46 @@ void MainWnd::pressInKey(ResizableItem* key, int velocity)
 
 void MainWnd::midiThru(QList<int> message) // NOLINT(performance-unnecessary-value-param): a queued slot
 {
-    if (mustWait()) // pushKeySlot() has put it in the queue
-        return;
     if (learnTonic || learnScale || message.size() != messageSize || isPlayed(message.at(0)))
         return;
     sendMidiOut(&message);
 }
 
+// One event a message: were its two halves events of their own, a recall between them would tear it apart.
+void MainWnd::receiveMessage(QList<int> message) // NOLINT(performance-unnecessary-value-param): a queued slot
+{
+    waitingMessages.append(message);
+    playWaiting();
+}
+
+// A dialog that comes up during a recall must not hold the music.
 bool MainWnd::mustWait() const
 {
-    return holdMessages || (!waitingMessages.isEmpty() && !playingWaiting);
+    return holdMessages && !dialogOpen;
+}
+
+void MainWnd::playWaiting()
+{
+    while (!waitingMessages.isEmpty() && !mustWait()) {
+        const QList<int> message = waitingMessages.takeFirst();
+        // Mapped notes of a message leave before its forwarded copy would.
+        pushKeySlot(message);
+        midiThru(message);
+    }
 }
 
 // The event loop must run here, and messages are events. Played from in here they would find the old mapping,
-// and a flood of black keys would nest without end.
+// and a flood of black keys would nest without end. What the player's hand does waits in the system's queue.
 void MainWnd::showBeforeRecall()
 {
     if (holdMessages)
         return;
     holdMessages = true;
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     holdMessages = false;
-    if (!waitingMessages.isEmpty() && !playingWaiting)
+    // For a recall by hand; one by MIDI runs inside playWaiting(), which goes on.
+    if (!waitingMessages.isEmpty())
         QMetaObject::invokeMethod(this, &MainWnd::playWaiting, Qt::QueuedConnection);
-}
-
-void MainWnd::playWaiting()
-{
-    if (holdMessages || playingWaiting)
-        return; // the one that holds or plays goes on with them
-    playingWaiting = true;
-    while (!waitingMessages.isEmpty()) {
-        const QList<int> message = waitingMessages.takeFirst();
-        pushKeySlot(message);
-        midiThru(message);
-    }
-    playingWaiting = false;
 }
 
 void MainWnd::sendMidiOut(const QList<int>* message)

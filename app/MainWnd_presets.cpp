@@ -11,6 +11,9 @@
 #include "logging/categories.h"
 
 #include <QMessageBox>
+#include <QScopedValueRollback>
+
+#include <algorithm>
 
 namespace {
 
@@ -61,6 +64,8 @@ void MainWnd::createHeaderItem(const QString& name, int keyNumber, int headerInd
         qCDebug(lcHeaders) << "HeaderController must be initialized before creating any Header";
         return;
     }
+    if (headerIndex < 0 || headerIndex >= resetHeaderCount || type < header_c_sharp || type > header_a_sharp)
+        return;
     auto* header =
         new HeaderItem(headerController, type, resetHeaderData.at(static_cast<std::size_t>(headerIndex)));
     header->homePos = position;
@@ -104,16 +109,15 @@ bool MainWnd::findPowerItemPosition(QPointF pos)
     const QRectF place(pos.x() + 3, pos.y() + halfHeight, 10, halfHeight);
     headerController->setHeadersStatus(true); // hidden items are not found
     const auto items = scene->items(place, Qt::IntersectsItemShape, Qt::DescendingOrder);
+    const bool found = std::any_of(items.begin(), items.end(), [&](QGraphicsItem* item) {
+        return key_roles::isHeader(item) && scene->swapHeader(powerItem, static_cast<HeaderItem*>(item));
+    });
     headerController->setHeadersStatus(powerItem->isSwitchOn());
-    for (QGraphicsItem* item : items) {
-        if (!key_roles::isHeader(item) || !scene->swapHeader(powerItem, static_cast<HeaderItem*>(item)))
-            continue;
-        qCDebug(lcHeaders) << "findPowerItemPosition found and swap";
-        return true;
-    }
-    qCDebug(lcHeaders) << "findPowerItemPosition not found";
-    powerItem->restorePos();
-    return false;
+    qCDebug(lcHeaders) << (found ? "findPowerItemPosition found and swap"
+                                 : "findPowerItemPosition not found");
+    if (!found)
+        powerItem->restorePos();
+    return found;
 }
 
 bool MainWnd::confirmAlert(const QString& text, const QString& accept)
@@ -128,8 +132,7 @@ bool MainWnd::confirmAlert(const QString& text, const QString& accept)
         else if (auto* button = qobject_cast<QAbstractButton*>(box.focusWidget()))
             button->click();
     });
-    dialogOpen = true;
+    const QScopedValueRollback<bool> open(dialogOpen, true);
     box.exec();
-    dialogOpen = false;
     return box.clickedButton() == acceptButton;
 }

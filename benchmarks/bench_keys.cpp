@@ -50,7 +50,7 @@ void notePairWithoutPresets(benchmark::State& state)
 void recall(benchmark::State& state)
 {
     HeaderController* presets = mainWnd->headerController;
-    const int keys[] = {66, 82}; // C Lydian, D# Iwato
+    const int keys[] = {58, 75}; // C Lydian, D# Iwato
     std::size_t i = 0;
     for (auto _ : state) {
         i = 1 - i;

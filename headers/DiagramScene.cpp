@@ -4,7 +4,6 @@
 #include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
 #include "keys/key_roles.h"
-#include "keys/pictures.h"
 #include "logging/categories.h"
 
 #include <QWidget>
@@ -26,11 +25,6 @@ HeaderItem* toHeader(ResizableItem* item)
 HeaderItem* headerUnder(const PowerItem* power)
 {
     return mainWnd->headerController->findHeader(key_roles::pitch(power));
-}
-
-void showPowerOn(PowerItem* power)
-{
-    power->setPixmap(pictures::load(QStringLiteral(":/Resources/Power/POWERBUTTONOn.png")));
 }
 
 } // namespace
@@ -55,13 +49,15 @@ bool DiagramScene::swapHeader(ResizableItem* prev, ResizableItem* cur)
 void DiagramScene::movePowerTo(const QGraphicsItem* header, PowerItem* power)
 {
     const ResizableItem* key = mainWnd->findInNote(key_roles::headerSlot(header));
+    if (!key)
+        return;
     power->setLastPos(key->pos() + powerOffset);
     key_roles::setPitch(power, key_roles::pitch(key));
 }
 
 bool DiagramScene::dropPower(ResizableItem* prev, PowerItem* power) const
 {
-    showPowerOn(power);
+    power->showSwitch(true);
     HeaderItem* target = toHeader(prev);
     if (!target) {
         qCDebug(lcHeaders) << "swap power and header exception: "
@@ -69,7 +65,7 @@ bool DiagramScene::dropPower(ResizableItem* prev, PowerItem* power) const
         return false;
     }
     HeaderItem* left = headerUnder(power);
-    if (target == left) {
+    if (!left || target == left) {
         qCDebug(lcHeaders) << "swap power and header the same exception";
         return false;
     }
@@ -104,6 +100,6 @@ bool DiagramScene::dropHeader(ResizableItem* prev, HeaderItem* header) const
     header->setStatus(header_deactive);
     movePowerTo(header, powerItem);
     powerItem->setSwithOn(true);
-    showPowerOn(powerItem);
+    powerItem->showSwitch(true);
     return true;
 }

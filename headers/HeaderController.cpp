@@ -47,11 +47,11 @@ int HeaderController::leaveActiveHeader(bool store)
 
 void HeaderController::saveSelectors(header_data& data) const
 {
-    data.tonicData = tonic().tonicModifier();
-    data.tonicOn = tonic().switchOn;
+    data.tonicData = tonicSelector().tonicModifier();
+    data.tonicOn = tonicSelector().switchOn;
     storePitchPosition(data, data.tonicOn);
-    data.scaleData = scale().scaleModifier();
-    data.scaleOn = scale().switchOn;
+    data.scaleData = scaleSelector().scaleModifier();
+    data.scaleOn = scaleSelector().switchOn;
 }
 
 // A switch that is off in the record leaves its selector's keys as they stand: the preset does not touch
@@ -59,17 +59,17 @@ void HeaderController::saveSelectors(header_data& data) const
 void HeaderController::loadSelectors(const header_data& data, int offset)
 {
     if (data.tonicOn) {
-        moveAnchors(-offset);
+        moveAnchors(-qreal(offset));
         restorePitchPosition(data);
     }
-    setSwitch(tonic(), data.tonicOn, false);
+    setSwitch(tonicSelector(), data.tonicOn, false);
     const bool update = !data.scaleOn;
-    const bool tonicMapped = tonic().setTonicModifier(data.tonicData, update, false) && update;
-    setSwitch(scale(), data.scaleOn, false);
-    const bool scaleMapped = scale().setScaleModifier(data.scaleData, false);
-    // A record may hold a tonic beside a scale that is no word, and the anchors may have moved for nothing.
-    if (data.tonicOn && !tonicMapped && !scaleMapped)
-        remap();
+    const bool tonicMapped = tonicSelector().setTonicModifier(data.tonicData, update, false) && update;
+    setSwitch(scaleSelector(), data.scaleOn, false);
+    const bool scaleMapped = scaleSelector().setScaleModifier(data.scaleData, false);
+    // A scale that is no word may have set some degrees, and the anchors may have moved.
+    if ((data.tonicOn || data.scaleOn) && !tonicMapped && !scaleMapped)
+        mainWnd->powerItem->remap();
 }
 
 void HeaderController::setActiveHeaderPrev()
@@ -162,6 +162,6 @@ void HeaderController::refreshActiveHeader(bool learnScale)
     if (!activeHeader)
         return;
     if (learnScale && activeHeader->record.scaleOn)
-        activeHeader->record.scaleData = scale().scaleModifier();
+        activeHeader->record.scaleData = scaleSelector().scaleModifier();
     activeHeader->updateScenic();
 }

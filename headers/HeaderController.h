@@ -85,7 +85,7 @@ public slots:
     void unlockBoth();
     void resetHdr();
     void eraseHdr();
-    // These ask first (HeaderController_menu.cpp)
+    // These ask first (HeaderController_reset.cpp)
     void eraseAll();
     /// Back to the factory: library, headers, power button's place, pitch position.
     void resetAll();

@@ -1,4 +1,4 @@
-// The context menu of a header, and the two actions on all headers.
+// The context menu of a header.
 
 #include "headers/HeaderController.h"
 
@@ -7,7 +7,6 @@
 #include "keys/PowerItem.h"
 #include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
-#include "library/default_tables.h"
 
 #include <QFile>
 #include <QGraphicsSceneContextMenuEvent>
@@ -16,8 +15,6 @@
 using namespace selector_access;
 
 namespace {
-
-const QPointF powerButtonReset(407, 28); // over C#4
 
 QString menuStyle()
 {
@@ -30,6 +27,15 @@ QString menuStyle()
 HeaderController::HeaderController(QWidget* window) : QObject(window), menu(new QMenu(window))
 {
     menu->setStyleSheet(menuStyle());
+    // The window's filter swallows these keys before the menu can see them.
+    connect(mainWnd, &MainWnd::specialKeyPressed, menu, [this](int key) {
+        if (!menu->isVisible() || key == Qt::Key_Return)
+            return;
+        QAction* chosen = key == Qt::Key_Enter ? menu->activeAction() : nullptr;
+        menu->close();
+        if (chosen && chosen->isEnabled())
+            chosen->trigger();
+    });
     addAction(tr("Copy Header"), &HeaderController::copyHdr);
     addAction(tr("Paste Header"), &HeaderController::pasteHdr);
     pasteAction = actions.last();
@@ -82,10 +88,10 @@ void HeaderController::pasteHdr()
         return;
     // The selectors write into the active record as they follow it.
     const header_data data = copyData;
-    setSwitch(tonic(), data.tonicOn, false);
-    setSwitch(scale(), data.scaleOn, false);
-    scale().setScaleModifier(data.scaleData, true);
-    tonic().setTonicModifier(data.tonicData, true, true);
+    setSwitch(tonicSelector(), data.tonicOn, false);
+    setSwitch(scaleSelector(), data.scaleOn, false);
+    scaleSelector().setScaleModifier(data.scaleData, true);
+    tonicSelector().setTonicModifier(data.tonicData, true, true);
     mainWnd->checkScaleMatches(true);
 }
 
@@ -105,10 +111,10 @@ void HeaderController::setTonicLock(bool on)
         return;
     contextHeader->record.tonicOn = on;
     if (contextHeader == activeHeader) {
-        setSwitch(tonic(), on, true);
+        setSwitch(tonicSelector(), on, true);
         contextHeader->record.tonicOn = on; // the selector marks a tonic as on even when it goes off
     } else {
-        visitContextHeader([this] { contextHeader->setNameTonic(tonic().tonicModifier()); });
+        visitContextHeader([this] { contextHeader->setNameTonic(tonicSelector().tonicModifier()); });
     }
 }
 
@@ -118,7 +124,7 @@ void HeaderController::setScaleLock(bool on)
         return;
     contextHeader->record.scaleOn = on;
     if (contextHeader == activeHeader)
-        setSwitch(scale(), on, true);
+        setSwitch(scaleSelector(), on, true);
     else
         visitContextHeader([this] { contextHeader->updateScenic(); });
 }
@@ -163,8 +169,8 @@ void HeaderController::eraseHdr()
     contextHeader->update();
     if (contextHeader != activeHeader)
         return;
-    scale().setAllOff();
-    tonic().setTonicModifier(QStringLiteral("C"), true, true);
+    scaleSelector().setAllOff();
+    tonicSelector().setTonicModifier(QStringLiteral("C"), true, true);
     lockBoth();
 }
 
@@ -182,53 +188,11 @@ void HeaderController::resetHdr()
     if (contextHeader != activeHeader)
         return;
     // Locking stores what the selectors show, so they must show the reset record first.
-    scale().setIonicMajor();
-    tonic().setTonicModifier(QStringLiteral("C"), true, true);
+    scaleSelector().setIonicMajor();
+    tonicSelector().setTonicModifier(QStringLiteral("C"), true, true);
     lockBoth();
     if (!mainWnd->powerItem->isSwitchOn())
         return;
     resetAnchors();
-    remap();
-}
-
-void HeaderController::eraseAll()
-{
-    if (!mainWnd->confirmAlert(tr("<h4>Are you sure you want to permanently erase the settings in all "
-                                  "Headers?</h4><h6>You can't undo this operation.</h6>"),
-                               tr("Erase All")))
-        return;
-    scale().setSwitchOff(true);
-    tonic().setSwitchOff(true);
-    for (HeaderItem* header : qAsConst(headers)) {
-        header->record.clearNames();
-        header->update();
-    }
-}
-
-void HeaderController::resetAll()
-{
-    if (!mainWnd->confirmAlert(tr("<h4>Are you sure you want to reset Sorvane?</h4><h6>You can't undo this "
-                                  "operation.</h6>"),
-                               tr("Reset to Default")))
-        return;
-    mainWnd->findPowerItemPosition(powerButtonReset);
-    mainWnd->library.loadDefault();
-    QList<header_data> rows;
-    for (const header_data& row : resetHeaderData)
-        rows.append(row);
-    reloadHeaders(rows);
-    if (activeHeader)
-        resetSelectors(activeHeader->record);
-    resetAnchors();
-    mainWnd->setPower(mainWnd->powerItem->isSwitchOn());
-}
-
-void HeaderController::resetSelectors(const header_data& data) const
-{
-    setSwitch(tonic(), data.tonicOn, false);
-    tonic().setTonicModifier(data.tonicData, true, false);
-    setSwitch(scale(), data.scaleOn, false);
-    scale().setScaleModifier(data.scaleData, false);
-    // The pitch position would be restored here and taken back by the reset of the anchors: only that stays.
-    mainWnd->checkScaleMatches(true);
+    mainWnd->powerItem->remap();
 }

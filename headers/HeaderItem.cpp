@@ -63,11 +63,6 @@ QFont flagFont()
     return font;
 }
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("HeaderItem", text);
-}
-
 } // namespace
 
 HeaderItem::HeaderItem(HeaderController* owner, header_type kind, const header_data& data)
@@ -79,15 +74,6 @@ HeaderItem::HeaderItem(HeaderController* owner, header_type kind, const header_d
     key_roles::setPitch(this, -1); // until it is set on its key
     setAcceptHoverEvents(true);
     updateScenic();
-}
-
-void HeaderItem::takeNamesFromLibrary()
-{
-    scale_data scale;
-    if (!mainWnd || !mainWnd->library.getScaleData(record.scaleData, scale, DatabaseLibrary::AnyRole))
-        return;
-    record.nameScenic1 = scale.abbr1;
-    record.nameScenic2 = scale.abbr2;
 }
 
 void HeaderItem::applyLayout()
@@ -120,7 +106,7 @@ QPainterPath HeaderItem::shape() const
     path.setFillRule(Qt::WindingFill);
     path.addRect(box);
     path.addRect(
-        QRectF(QPointF(tonicRect.left(), box.top()), QPointF(tonicRect.right() + 1, powerPoint.y())));
+        QRectF(QPointF(tonicRect.left(), box.bottom()), QPointF(tonicRect.right() + 1, powerPoint.y())));
     return path;
 }
 
@@ -133,79 +119,6 @@ void HeaderItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option
     painter->setFont(font);
     painter->setPen(textColour(currentStatus));
     painter->drawText(tonicRect, Qt::AlignCenter, record.nameTonic);
-}
-
-void HeaderItem::updateScenic()
-{
-    if (!mainWnd || !mainWnd->headerController)
-        return;
-    mainWnd->headerController->removeUnusedTempRecords();
-    if (record.scaleOn && !record.scaleData.isEmpty()) {
-        nameAfterLibrary();
-        return;
-    }
-    setNameScenic1({});
-    setNameScenic2({});
-}
-
-void HeaderItem::nameAfterLibrary()
-{
-    scale_data scale;
-    if (!mainWnd->library.getScaleData(record.scaleData, scale, DatabaseLibrary::AnyRole)) {
-        // Its own number must not count as taken.
-        record.nameScenic1.clear();
-        record.nameScenic2.clear();
-        scale.scale = record.scaleData;
-        scale.abbr1 = translated("User");
-        scale.abbr2 = QString::number(mainWnd->headerController->findMinUserNum());
-        scale.title = scale.abbr1 + QLatin1Char(' ') + scale.abbr2;
-        mainWnd->library.setScaleData(record.scaleData, scale, DatabaseLibrary::CustomRole);
-    }
-    // A played note comes by here: what stays the same is not painted again.
-    if (record.nameScenic1 != scale.abbr1)
-        setNameScenic1(scale.abbr1);
-    if (record.nameScenic2 != scale.abbr2)
-        setNameScenic2(scale.abbr2);
-}
-
-void HeaderItem::setNameScenic1(const QString& name)
-{
-    record.nameScenic1 = name;
-    update(nameRect1);
-}
-
-void HeaderItem::setNameScenic2(const QString& name)
-{
-    record.nameScenic2 = name;
-    update(nameRect2);
-}
-
-void HeaderItem::setNameTonic(const QString& name)
-{
-    record.nameTonic = name;
-    update(tonicRect);
-}
-
-QString HeaderItem::describe() const
-{
-    const QString tonic = record.nameTonic.isEmpty() ? record.tonicData : record.nameTonic;
-    const bool hasTonic = record.tonicOn && !tonic.isEmpty();
-    const bool hasScale = record.scaleOn && !record.scaleData.isEmpty();
-    scale_data scale;
-    if (hasScale)
-        mainWnd->library.getScaleData(record.scaleData, scale, DatabaseLibrary::AnyRole);
-    QStringList locked;
-    if (hasTonic)
-        locked << translated("tonic");
-    if (hasScale)
-        locked << translated("scale");
-    const QStringList lines = {
-        translated("Tonic: %1").arg(hasTonic ? tonic : translated("as it is")),
-        hasScale ? translated("Scale: %1 (%2 %3)").arg(scale.title, record.nameScenic1, record.nameScenic2)
-                 : translated("Scale: %1").arg(translated("as it is")),
-        translated("Locked: %1")
-            .arg(locked.isEmpty() ? translated("nothing") : locked.join(QLatin1String(", ")))};
-    return lines.join(QLatin1Char('\n'));
 }
 
 void HeaderItem::copyHeadersData(const HeaderItem* source)
@@ -275,6 +188,7 @@ void HeaderItem::contextMenuEvent(QGraphicsSceneContextMenuEvent* event)
 void HeaderItem::hoverEnterEvent(QGraphicsSceneHoverEvent* event)
 {
     // Made when it may be needed, not when a note or a recall changes what it says.
-    setToolTip(describe());
+    const QString text = describe().toHtmlEscaped(); // names may come from a file and hold anything
+    setToolTip(QStringLiteral("<p style=\"white-space:pre\">%1</p>").arg(text));
     ResizableItem::hoverEnterEvent(event);
 }

@@ -2,7 +2,9 @@
 
 #include "headers/header_data.h"
 #include "keys/ResizableItem.h"
+#include "library/scale_data.h"
 
+#include <QCoreApplication>
 #include <QFont>
 #include <QRect>
 
@@ -23,6 +25,8 @@ enum header_status : int {
 /// keeps its names in step with the scale library. Main thread only.
 class HeaderItem : public ResizableItem
 {
+    Q_DECLARE_TR_FUNCTIONS(HeaderItem)
+
 public:
     /// Names that the library has for the scale win over those of `data`.
     HeaderItem(HeaderController* owner, header_type kind, const header_data& data);
@@ -69,7 +73,8 @@ protected:
 
 private:
     void takeNamesFromLibrary();
-    void nameAfterLibrary();
+    [[nodiscard]] scale_data libraryRecord();
+    [[nodiscard]] QString describeScale() const;
     void applyLayout();
 
     header_status currentStatus = header_deactive;

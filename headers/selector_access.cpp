@@ -7,13 +7,18 @@
 #include "keys/TonicKeyController.h"
 
 namespace selector_access {
+namespace {
 
-TonicKeyController& tonic()
+constexpr qreal farthest = 1e6; // far off any stage: stored positions come from files
+
+} // namespace
+
+TonicKeyController& tonicSelector()
 {
     return *static_cast<TonicKeyController*>(mainWnd->tonicController);
 }
 
-ScaleKeyController& scale()
+ScaleKeyController& scaleSelector()
 {
     return *static_cast<ScaleKeyController*>(mainWnd->scaleController);
 }
@@ -29,13 +34,13 @@ void setSwitch(KeyControllerBase& selector, bool on, bool toHeader)
 int anchorX()
 {
     const QGraphicsItemGroup* anchor = mainWnd->powerItem->mainAnchorIn;
-    return anchor ? static_cast<int>(anchor->scenePos().x()) : 0;
+    return anchor ? static_cast<int>(qBound(-farthest, anchor->scenePos().x(), farthest)) : 0;
 }
 
-void moveAnchors(int dx)
+void moveAnchors(qreal dx)
 {
     if (AnchorsGroup* group = mainWnd->powerItem->anchorsGroup)
-        group->moveBy(dx, 0);
+        group->setX(qBound(-farthest, group->x() + dx, farthest));
 }
 
 void resetAnchors()
@@ -45,12 +50,6 @@ void resetAnchors()
         return;
     group->setX(0);
     group->refresh();
-}
-
-void remap()
-{
-    mainWnd->powerItem->changeScaleByTonic();
-    mainWnd->powerItem->setKeysDeactive();
 }
 
 } // namespace selector_access

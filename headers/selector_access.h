@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 class KeyControllerBase;
 class ScaleKeyController;
 class TonicKeyController;
@@ -7,14 +9,14 @@ class TonicKeyController;
 /// The selectors and the anchors as the presets see them.
 namespace selector_access {
 
-[[nodiscard]] TonicKeyController& tonic();
-[[nodiscard]] ScaleKeyController& scale();
+[[nodiscard]] TonicKeyController& tonicSelector();
+[[nodiscard]] ScaleKeyController& scaleSelector();
 void setSwitch(KeyControllerBase& selector, bool on, bool toHeader);
 /// Whole scene pixels that the main in anchor stands right of its home; 0 without anchors.
 [[nodiscard]] int anchorX();
-void moveAnchors(int dx);
+/// Scene pixels; the anchors stay within what a whole number of pixels can say.
+void moveAnchors(qreal dx);
 /// The anchors back to their home; does not remap.
 void resetAnchors();
-void remap();
 
 } // namespace selector_access

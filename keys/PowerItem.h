@@ -9,6 +9,10 @@ public:
     [[nodiscard]] bool isSwitchOn() const { return switchOn; }
     /// Stores the state; nothing else follows. Kept: the name is one letter short.
     void setSwithOn(bool on) { switchOn = on; }
+    /// The button's picture of a state, its own or one to come.
+    void showSwitch(bool on);
+    /// Everything that follows from a change of tonic, scale, power or pitch position.
+    void remap();
 
     /// Moves the button, in scene coordinates, and remembers where.
     void setLastPos(const QPointF& pos);

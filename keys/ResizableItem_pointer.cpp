@@ -14,6 +14,8 @@ void ResizableItem::mousePressEvent(QGraphicsSceneMouseEvent* event)
     if (key_roles::isHeader(this) && event->button() == Qt::LeftButton && !learning && !mainWnd->dialogOpen) {
         HeaderController* presets = mainWnd->headerController;
         presets->setActiveHeader(presets->findHeader(key_roles::pitch(this)), true);
+        event->accept();
+        return;
     }
     // Keys and the power button do not answer to the pointer yet. Without this the base would drag the
     // movable power button away from its key.

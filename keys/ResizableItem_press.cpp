@@ -9,7 +9,6 @@
 #include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
 #include "keys/key_roles.h"
-#include "keys/pictures.h"
 #include "logging/categories.h"
 
 namespace {
@@ -128,15 +127,14 @@ void ResizableItem::recallPreset()
     mainWnd->showBeforeRecall();
     HeaderController* presets = mainWnd->headerController;
     presets->setActiveHeader(presets->findHeader(key_roles::pitch(this)), true);
-    mainWnd->powerItem->setAllBlackBlue(true);
+    mainWnd->powerItem->setAllBlackBlue(isPowerOn());
 }
 
 void ResizableItem::togglePower()
 {
     PowerItem* power = mainWnd->powerItem;
     const bool on = !power->isSwitchOn();
-    power->setPixmap(pictures::load(on ? QStringLiteral(":/Resources/Power/POWERBUTTONOn.png")
-                                       : QStringLiteral(":/Resources/Power/POWERBUTTONOff.png")));
+    power->showSwitch(on);
     power->setSwithOn(on);
     mainWnd->setBackgroundSwitches(on);
     mainWnd->headerController->setHeadersStatus(on);

@@ -13,12 +13,6 @@ namespace {
 
 constexpr int degreeCount = 12;
 
-void remap()
-{
-    mainWnd->powerItem->changeScaleByTonic();
-    mainWnd->powerItem->setKeysDeactive();
-}
-
 } // namespace
 
 void ScaleKeyController::addKey(TonicKeyItem* key)
@@ -90,7 +84,7 @@ bool ScaleKeyController::setScaleModifier(const QString& word, bool force)
     }
     if (!applyLetters(word))
         return false;
-    remap();
+    mainWnd->powerItem->remap();
     return true;
 }
 
@@ -105,7 +99,7 @@ bool ScaleKeyController::toggleKey(const QString& noteName)
         key->setOff();
     else
         key->setOn();
-    remap();
+    mainWnd->powerItem->remap();
     return true;
 }
 

@@ -84,10 +84,8 @@ void TonicKeyItem::changeState(bool update)
         becomeTonic();
     else
         flipDegree();
-    if (update) {
-        mainWnd->powerItem->changeScaleByTonic();
-        mainWnd->powerItem->setKeysDeactive();
-    }
+    if (update)
+        mainWnd->powerItem->remap();
 }
 
 void TonicKeyItem::handleHiddenMouseMove()

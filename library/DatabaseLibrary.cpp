@@ -18,6 +18,7 @@ void DatabaseLibrary::clear()
 {
     d->scales.clear();
     d->categoryNames.clear();
+    d->namesSorted = true;
     d->recentCategories.clear();
     d->customList.clear();
     d->categoryScales.clear();

@@ -16,6 +16,8 @@ public:
     [[nodiscard]] QList<QString>* wordsOf(const QString& category);
     [[nodiscard]] const QList<QString>* wordsOf(const QString& category) const;
     void moveToFront(const QString& category);
+    /// Sorts the names, and the words with them.
+    void sortCategories();
 
     QVector<QList<QString>> categoryScales;
     QMap<QString, scale_data> scales;
@@ -23,5 +25,6 @@ public:
     int currentCategoryIdx = -1;
     QList<QString> recentCategories; ///< the most recently selected first
     QVector<QString> categoryNames;
+    bool namesSorted = true;            ///< until a category is renamed
     QMap<QString, int> currentScaleIdx; ///< by category, -1 for none
 };

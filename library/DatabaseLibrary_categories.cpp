@@ -9,39 +9,63 @@
 
 #include <algorithm>
 
+namespace {
+
+/// By the default locale, numbers by their value.
+class CollatedOrder
+{
+public:
+    CollatedOrder()
+    {
+        // The C locale has no collation and would put "10" before "2".
+        if (QLocale().language() == QLocale::C)
+            collator.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+        collator.setNumericMode(true);
+    }
+    bool operator()(const QString& a, const QString& b) const { return collator.compare(a, b) < 0; }
+
+private:
+    QCollator collator;
+};
+
+} // namespace
+
 void DatabaseLibraryPrivate::moveToFront(const QString& category)
 {
     recentCategories.removeOne(category);
     recentCategories.prepend(category);
 }
 
+void DatabaseLibraryPrivate::sortCategories()
+{
+    QVector<QString> names = categoryNames;
+    DatabaseLibrary::sortStringVector(names);
+    QVector<QList<QString>> words;
+    words.reserve(names.size());
+    for (const QString& name : qAsConst(names))
+        words.append(categoryScales.at(categoryNames.indexOf(name)));
+    categoryNames = names;
+    categoryScales = words;
+    namesSorted = true;
+}
+
 void DatabaseLibrary::sortStringVector(QVector<QString>& strings)
 {
-    if (strings.isEmpty())
-        return;
-    // The C locale has no collation and would put "10" before "2".
-    const QLocale locale;
-    QCollator collator(locale.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedStates)
-                                                       : locale);
-    collator.setNumericMode(true);
-    std::sort(strings.begin(), strings.end(),
-              [&](const QString& a, const QString& b) { return collator.compare(a, b) < 0; });
+    if (!strings.isEmpty())
+        std::sort(strings.begin(), strings.end(), CollatedOrder());
 }
 
 void DatabaseLibrary::insertCategory(const QString& name)
 {
     if (d->categoryNames.contains(name))
         return;
-    QVector<QString> names = d->categoryNames;
-    names.append(name);
-    sortStringVector(names);
-    // A renamed category may move in the sort: the lists of words go with their names.
-    QVector<QList<QString>> words;
-    words.reserve(names.size());
-    for (const QString& category : qAsConst(names))
-        words.append(scalesFromCategory(category));
-    d->categoryNames = names;
-    d->categoryScales = words;
+    if (!d->namesSorted)
+        d->sortCategories();
+    const auto& names = qAsConst(d->categoryNames);
+    const auto place = std::upper_bound(names.begin(), names.end(), name, CollatedOrder());
+    const int index = static_cast<int>(place - names.begin());
+    d->categoryNames.insert(index, name);
+    d->categoryScales.insert(index, QList<QString>());
     d->recentCategories.prepend(name);
     d->currentScaleIdx[name] = -1;
 }
@@ -69,6 +93,7 @@ bool DatabaseLibrary::renameCategory(const QString& oldName, const QString& newN
     if (index < 0 || d->categoryNames.contains(newName))
         return false;
     d->categoryNames[index] = newName;
+    d->namesSorted = false;
     d->recentCategories[d->recentCategories.indexOf(oldName)] = newName;
     return true;
 }

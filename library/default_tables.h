@@ -7,7 +7,7 @@
 
 #include <array>
 
-// The factory content, built before main(). All texts are Latin-1.
+// The factory content, built before main(). The scales' texts are read as Latin-1; all are plain ASCII.
 
 inline constexpr int resetCategoryCount = 10;
 inline constexpr int resetHeaderCount = 36;
@@ -22,7 +22,7 @@ extern const std::array<QString, resetCategoryCount> resetCatrgoryData;
 extern const std::array<int, resetBlockCount> numResetScales;
 
 /// The scales: block i + 1 holds those of category i, the rows past its content are empty. The words are the
-/// common practice of the named scales; rows of one block stand from the brightest mode to the darkest.
+/// common practice of the named scales.
 extern const std::array<std::array<scale_data, resetBlockRows>, resetBlockCount> resetScaleData;
 
 /// The presets, from the lowest black key up.
