@@ -101,7 +101,7 @@ void HeaderItem::setStatus(header_status status)
 
 QPainterPath HeaderItem::shape() const
 {
-    const QRectF box = QRectF(nameRect1.united(nameRect2)).adjusted(-2, -3, 2, 2);
+    const QRectF box = QRectF(nameRect1.united(nameRect2)).adjusted(-1, -2, 1, 1);
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
     path.addRect(box);

@@ -29,7 +29,7 @@ Flag flag(int width, double headLeft, double headWidth, double badgeLeft, double
 
 const Flag flags[] = {
     flag(34, 1, 32, 19, 40, 60), flag(34, 1, 32, 2, 40, 60),  flag(44, 1, 34, 29, 67, 87),
-    flag(36, 1, 34, 11, 67, 87), flag(44, 10, 34, 2, 67, 87),
+    flag(36, 1, 34, 11, 67, 87), flag(44, 10, 33, 2, 67, 87),
 };
 
 enum class Look { idle, active, shadow, target };
