@@ -12,9 +12,9 @@ context.properties = {
     core.daemon = true
     core.name = pipewire-0
     default.clock.rate = 48000
-    default.clock.quantum = 256
-    default.clock.min-quantum = 256
-    default.clock.max-quantum = 256
+    default.clock.quantum = %FRAMES%
+    default.clock.min-quantum = %FRAMES%
+    default.clock.max-quantum = %FRAMES%
 }
 context.spa-libs = { support.* = support/libspa-support }
 context.modules = [
@@ -44,8 +44,9 @@ PipeWireDaemon::~PipeWireDaemon()
 
 bool PipeWireDaemon::writeConfiguration() const
 {
+    const QByteArray text = QByteArray(configuration).replace("%FRAMES%", QByteArray::number(frames));
     QFile file(folder.filePath(QStringLiteral("private.conf")));
-    return file.open(QIODevice::WriteOnly) && file.write(configuration) > 0;
+    return file.open(QIODevice::WriteOnly) && file.write(text) > 0;
 }
 
 bool PipeWireDaemon::start()

@@ -1,13 +1,16 @@
 #pragma once
 
-#include <QProcess>
+#include "ChildProcess.h"
+
 #include <QTemporaryDir>
 
-/// A PipeWire daemon of the test's own: no session manager, no hardware, 48 kHz, periods of 256 frames.
-/// start() points XDG_RUNTIME_DIR of this process, and so of its children, to it.
+/// A PipeWire daemon of the test's own: no session manager, no hardware, 48 kHz, periods of 256 frames unless
+/// told otherwise. start() points XDG_RUNTIME_DIR of this process, and so of its children, to it.
 class PipeWireDaemon
 {
 public:
+    /// A busy machine loses whole periods, with all they carry: the longer they are, the fewer.
+    explicit PipeWireDaemon(int periodFrames = 256) : frames(periodFrames) {}
     ~PipeWireDaemon();
 
     /// False, with reason(), where no daemon can be started.
@@ -19,7 +22,8 @@ public:
 private:
     [[nodiscard]] bool writeConfiguration() const;
 
+    const int frames;
     QTemporaryDir folder;
-    QProcess process;
+    ChildProcess process;
     QString why;
 };

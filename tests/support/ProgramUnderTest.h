@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QProcess>
+#include "ChildProcess.h"
+
 #include <QStringList>
 
 /// The program as a user starts it. It ends with the test.
@@ -28,6 +29,6 @@ private:
     [[nodiscard]] int finish();
 
     QString program;
-    QProcess process;
+    ChildProcess process;
     QString errorText, outputText;
 };

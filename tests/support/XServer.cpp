@@ -9,7 +9,10 @@ constexpr char handPause[] = "0.04";
 
 bool xdotool(const QStringList& arguments)
 {
-    return QProcess::execute(QStringLiteral("xdotool"), arguments) == 0;
+    ChildProcess hand;
+    hand.setProcessChannelMode(QProcess::ForwardedChannels);
+    hand.start(QStringLiteral("xdotool"), arguments);
+    return hand.waitForFinished(-1) && hand.exitStatus() == QProcess::NormalExit && hand.exitCode() == 0;
 }
 
 QStringList moveTo(QPoint pos)

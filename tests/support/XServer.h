@@ -1,7 +1,8 @@
 #pragma once
 
+#include "ChildProcess.h"
+
 #include <QPoint>
-#include <QProcess>
 
 /// A private X server with a screen of the window's size, so that screen and stage coordinates are the same.
 /// start() points DISPLAY of this process, and so of its children, to it.
@@ -19,5 +20,5 @@ public:
     static bool key(const QString& name);
 
 private:
-    QProcess process;
+    ChildProcess process;
 };
