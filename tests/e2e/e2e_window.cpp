@@ -21,6 +21,9 @@ const QString virtualOut = QStringLiteral(":Sorvane MIDI Out");
 const QPoint tonicSwitch(134, 260), scaleSwitch(898, 260), portsButton(289, 196), firstInRow(420, 204),
     firstOutRow(630, 204), besideTheLists(473, 291);
 
+// The heads of two flags: C Lydian over A#3 and D# Iwato over D#5.
+const QPoint lydianFlag(426, 315), iwatoFlag(587, 343);
+
 /// The middle of a selector key: the foot of a white one, the body of a black one.
 QPoint keyPlace(int left, int index)
 {
@@ -56,6 +59,9 @@ private slots:
     void dragAcrossTheScaleRowTogglesEachKeyOnce();
     void clickTogglesOneDegree();
     void scaleSwitchOffStopsTheScaleGestures();
+    void clickOnAFlagRecallsItsPreset();
+    void arrowKeysRecallTheNeighbours();
+    void menuOfAFlagWorksByKeyboard();
     void portIsClosedByItsRowWhileANoteIsHeld();
     void portThatCannotOpenIsReportedAndOpensOnceTheServiceIsBack();
 
@@ -151,6 +157,42 @@ void EndToEndWindow::scaleSwitchOffStopsTheScaleGestures()
     QVERIFY(playsAs(9, "xoxoxxoxoxox"));
     QVERIFY(XServer::click(tonicSwitch)); // and keeps its tonic with its own switch off
     QVERIFY(playsAs(9, "xoxoxxoxoxox"));
+}
+
+void EndToEndWindow::clickOnAFlagRecallsItsPreset()
+{
+    QVERIFY(XServer::click(lydianFlag));
+    QVERIFY(playsAs(0, "xoxoxoxxoxox"));
+    QVERIFY(XServer::click(iwatoFlag));
+    QVERIFY(playsAs(3, "xxoooxxoooxo"));
+    QVERIFY(XServer::click(scaleKey(4))); // belongs to the preset, and comes back with it
+    QVERIFY(XServer::click(lydianFlag));
+    QVERIFY(playsAs(0, "xoxoxoxxoxox"));
+    QVERIFY(XServer::click(iwatoFlag));
+    QVERIFY(playsAs(3, "xxooxxxoooxo"));
+}
+
+void EndToEndWindow::arrowKeysRecallTheNeighbours()
+{
+    QVERIFY(XServer::click(iwatoFlag));
+    QVERIFY(XServer::key(QStringLiteral("ctrl+Left")));
+    QVERIFY(playsAs(1, "xoxxoooxxoxo"));
+    QVERIFY(XServer::key(QStringLiteral("ctrl+Right")));
+    QVERIFY(playsAs(3, "xxoooxxoooxo"));
+}
+
+void EndToEndWindow::menuOfAFlagWorksByKeyboard()
+{
+    QVERIFY(XServer::click(iwatoFlag));
+    QVERIFY(XServer::click(lydianFlag, 3));
+    QVERIFY(XServer::key(QStringLiteral("Escape")));
+    QVERIFY(playsAs(3, "xxoooxxoooxo"));
+    QVERIFY(XServer::click(lydianFlag, 3));
+    for (const char* key : {"Up", "Up", "Up", "Return"}) // the last but two: "Reset: C/Ionian"
+        QVERIFY(XServer::key(QLatin1String(key)));
+    QVERIFY(playsAs(3, "xxoooxxoooxo")); // another preset than the active one
+    QVERIFY(XServer::click(lydianFlag));
+    QVERIFY(playsAs(0, "xoxoxxoxoxox"));
 }
 
 void EndToEndWindow::portIsClosedByItsRowWhileANoteIsHeld()

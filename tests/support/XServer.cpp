@@ -42,9 +42,9 @@ bool XServer::start()
     return true;
 }
 
-bool XServer::click(QPoint pos)
+bool XServer::click(QPoint pos, int button)
 {
-    return xdotool(moveTo(pos) + QStringList{QStringLiteral("click"), QStringLiteral("1")});
+    return xdotool(moveTo(pos) + QStringList{QStringLiteral("click"), QString::number(button)});
 }
 
 bool XServer::drag(const QList<QPoint>& points)

@@ -14,7 +14,7 @@ public:
     bool start();
 
     /// Real events through the server's test extension.
-    static bool click(QPoint pos);
+    static bool click(QPoint pos, int button = 1);
     /// Press at the first point, move over the others, release at the last.
     static bool drag(const QList<QPoint>& points);
     static bool key(const QString& name);
