@@ -1,13 +1,7 @@
 // The presets, the selectors and what they play under random use, against a model.
 
 #include "FactoryPresets.h"
-#include "RecordingPort.h"
-#include "app/MainWnd.h"
-#include "app/MidiService.h"
-#include "headers/HeaderController.h"
-#include "keys/PowerItem.h"
-#include "keys/ScaleKeyController.h"
-#include "keys/TonicKeyController.h"
+#include "HeaderFixture.h"
 #include "keys/tonic_names.h"
 
 #include <QRandomGenerator>
@@ -46,15 +40,25 @@ bool operator==(const Record& a, const Record& b)
            a.scaleOn == b.scaleOn && a.word == b.word && a.anchorValid == b.anchorValid;
 }
 
+/// Flips the switch of a selector; whether it must be on then.
+bool flip(KeyControllerBase& selector)
+{
+    const bool wanted = !selector.switchOn;
+    if (wanted)
+        selector.setSwitchOn(true);
+    else
+        selector.setSwitchOff(true);
+    return wanted;
+}
+
 } // namespace
 
-class TestPresets : public QObject
+class TestPresets : public HeaderFixture
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup() { window.reset(); }
 
     void freshStartIsTheModels() { QCOMPARE(difference(), QString()); }
     void randomUse_data();
@@ -69,9 +73,6 @@ private:
     };
     static const Operation operations[];
 
-    HeaderController& presets() const { return *window->headerController; }
-    TonicKeyController& tonic() const { return *static_cast<TonicKeyController*>(window->tonicController); }
-    ScaleKeyController& scale() const { return *static_cast<ScaleKeyController*>(window->scaleController); }
     int below(int end) { return random.bounded(end); }
     int anyPreset() { return below(3) ? below(PresetModel::count) : model->active; }
     /// The menu's target, in both.
@@ -81,12 +82,9 @@ private:
     void recall();
     void previous();
     void next();
-    void lockTonic();
-    void unlockTonic();
-    void lockScale();
-    void unlockScale();
-    void lockBoth();
-    void unlockBoth();
+    /// An entry of the menu that locks or unlocks the tonic, the scale or both.
+    template <void (HeaderController::*entry)(), bool ofTonic, bool ofScale, bool locked>
+    void lock();
     void copy();
     void paste();
     void erase();
@@ -103,24 +101,33 @@ private:
     QString difference() const;
     QString recordDifference() const;
 
-    std::unique_ptr<MainWnd> window;
-    RecordingPort* port = nullptr; // owned by the window
     std::unique_ptr<PresetModel> model;
     QRandomGenerator random;
     std::vector<RecordingPort::Message> expected;
 };
+
+template <void (HeaderController::*entry)(), bool ofTonic, bool ofScale, bool locked>
+void TestPresets::lock()
+{
+    const int index = openMenu();
+    (presets().*entry)();
+    if constexpr (ofTonic)
+        model->lockTonic(index, locked);
+    if constexpr (ofScale)
+        model->lockScale(index, locked);
+}
 
 const TestPresets::Operation TestPresets::operations[] = {
     {"black key", &TestPresets::blackKey},
     {"recall", &TestPresets::recall},
     {"previous", &TestPresets::previous},
     {"next", &TestPresets::next},
-    {"lock tonic", &TestPresets::lockTonic},
-    {"unlock tonic", &TestPresets::unlockTonic},
-    {"lock scale", &TestPresets::lockScale},
-    {"unlock scale", &TestPresets::unlockScale},
-    {"lock both", &TestPresets::lockBoth},
-    {"unlock both", &TestPresets::unlockBoth},
+    {"lock tonic", &TestPresets::lock<&HeaderController::lockTonic, on, off, on>},
+    {"unlock tonic", &TestPresets::lock<&HeaderController::unlockTonic, on, off, off>},
+    {"lock scale", &TestPresets::lock<&HeaderController::lockScale, off, on, on>},
+    {"unlock scale", &TestPresets::lock<&HeaderController::unlockScale, off, on, off>},
+    {"lock both", &TestPresets::lock<&HeaderController::lockBoth, on, on, on>},
+    {"unlock both", &TestPresets::lock<&HeaderController::unlockBoth, on, on, off>},
     {"copy", &TestPresets::copy},
     {"paste", &TestPresets::paste},
     {"erase", &TestPresets::erase},
@@ -134,11 +141,7 @@ const TestPresets::Operation TestPresets::operations[] = {
 
 void TestPresets::init()
 {
-    midiService().choose(MidiService::Wanted::none);
-    window = std::make_unique<MainWnd>();
-    port = new RecordingPort;
-    window->outPorts[0] = port;
-    window->midiOutOpen = true;
+    openWindow();
     model = std::make_unique<PresetModel>(factoryPresets());
     expected.clear();
 }
@@ -168,46 +171,6 @@ void TestPresets::next()
 {
     presets().setActiveHeaderNext();
     model->neighbour(1);
-}
-
-void TestPresets::lockTonic()
-{
-    model->lockTonic(openMenu(), true);
-    presets().lockTonic();
-}
-
-void TestPresets::unlockTonic()
-{
-    model->lockTonic(openMenu(), false);
-    presets().unlockTonic();
-}
-
-void TestPresets::lockScale()
-{
-    model->lockScale(openMenu(), true);
-    presets().lockScale();
-}
-
-void TestPresets::unlockScale()
-{
-    model->lockScale(openMenu(), false);
-    presets().unlockScale();
-}
-
-void TestPresets::lockBoth()
-{
-    const int index = openMenu();
-    presets().lockBoth();
-    model->lockTonic(index, true);
-    model->lockScale(index, true);
-}
-
-void TestPresets::unlockBoth()
-{
-    const int index = openMenu();
-    presets().unlockBoth();
-    model->lockTonic(index, false);
-    model->lockScale(index, false);
 }
 
 void TestPresets::copy()
@@ -253,22 +216,12 @@ void TestPresets::clickDegree()
 
 void TestPresets::switchTonic()
 {
-    const bool on = !tonic().switchOn;
-    if (on)
-        tonic().setSwitchOn(true);
-    else
-        tonic().setSwitchOff(true);
-    model->switchTonic(on);
+    model->switchTonic(flip(tonic()));
 }
 
 void TestPresets::switchScale()
 {
-    const bool on = !scale().switchOn;
-    if (on)
-        scale().setSwitchOn(true);
-    else
-        scale().setSwitchOff(true);
-    model->switchScale(on);
+    model->switchScale(flip(scale()));
 }
 
 void TestPresets::switchPower()

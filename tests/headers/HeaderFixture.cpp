@@ -1,0 +1,134 @@
+// The window that the tests of the headers share, and the hands that they lay on it.
+
+#include "HeaderFixture.h"
+
+#include "app/MidiService.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTimer>
+
+void HeaderFixture::openWindow()
+{
+    midiService().choose(MidiService::Wanted::none);
+    window = std::make_unique<MainWnd>();
+    port = new RecordingPort;
+    window->outPorts[0] = port;
+    window->midiOutOpen = true;
+    seen = 0;
+    for (const QString& word : {unknownWord, otherUnknownWord})
+        QVERIFY(!library().containsScale(word, DatabaseLibrary::AnyRole));
+}
+
+void HeaderFixture::closeWindow()
+{
+    if (anchors) {
+        power()->anchorsGroup = nullptr;
+        power()->mainAnchorIn = nullptr;
+        anchors.reset();
+    }
+    window.reset();
+}
+
+DiagramScene* HeaderFixture::scene() const
+{
+    return qobject_cast<DiagramScene*>(window->ui.inKeyboardGraphicsView->scene());
+}
+
+QStringList HeaderFixture::state() const
+{
+    QStringList lines;
+    for (const HeaderItem* item : qAsConst(presets().headers))
+        lines << asText(item->record) + QString::number(item->status());
+    lines << QString::number(presets().headers.indexOf(presets().activeHeader));
+    lines << QString::number(tonic().tonicModifierIndex()) << scale().scaleModifier();
+    lines << QString::number(tonic().switchOn) << QString::number(scale().switchOn);
+    lines << QString::number(power()->isSwitchOn()) << QString::number(key_roles::pitch(power()));
+    return lines;
+}
+
+QStringList HeaderFixture::abbreviations(const QString& word) const
+{
+    scale_data found;
+    if (!library().getScaleData(word, found, DatabaseLibrary::AnyRole))
+        return {QStringLiteral("no"), QStringLiteral("record")};
+    return {found.abbr1, found.abbr2};
+}
+
+void HeaderFixture::setTonic(const char* name) const
+{
+    QVERIFY(tonic().setTonicModifier(QLatin1String(name), true, true));
+}
+
+void HeaderFixture::setScale(const QString& word) const
+{
+    QVERIFY(scale().setScaleModifier(word, true));
+}
+
+void HeaderFixture::setRecord(int key, const header_data& data) const
+{
+    record(key) = data;
+    header(key)->updateScenic();
+}
+
+void HeaderFixture::emptyHeaders() const
+{
+    for (HeaderItem* item : qAsConst(presets().headers))
+        item->record = {};
+    presets().removeUnusedTempRecords();
+    QVERIFY(library().customScales().isEmpty());
+}
+
+void HeaderFixture::addAnchors(qreal x)
+{
+    anchors = std::make_unique<AnchorsGroup>();
+    auto* main = new QGraphicsItemGroup;
+    anchors->addToGroup(main);
+    scene()->addItem(anchors.get());
+    anchors->setPos(x, 7);
+    power()->anchorsGroup = anchors.get();
+    power()->mainAnchorIn = main;
+}
+
+void HeaderFixture::show() const
+{
+    window->move(0, -200); // so that the screen has room for a menu below a header
+    window->show();
+    window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+}
+
+// The middle of the upper name box: no other flag reaches it.
+QPoint HeaderFixture::placeOf(int key) const
+{
+    const QPointF box = QRectF(header(key)->nameRect1).center();
+    return window->ui.inKeyboardGraphicsView->mapFromScene(header(key)->mapToScene(box));
+}
+
+template <typename Widget>
+void HeaderFixture::whenUp(const std::function<Widget*()>& find, const std::function<void(Widget&)>& look)
+{
+    auto* poll = new QTimer(window.get());
+    connect(poll, &QTimer::timeout, this, [this, poll, find, look] {
+        Widget* widget = find();
+        if (!widget || !widget->isVisible())
+            return;
+        poll->deleteLater();
+        poll->stop();
+        ++seen;
+        QTimer::singleShot(3000, widget, &QWidget::close);
+        look(*widget);
+    });
+    poll->start(1);
+}
+
+void HeaderFixture::whenAsked(const std::function<void(QMessageBox&)>& look)
+{
+    whenUp<QMessageBox>([] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }, look);
+}
+
+void HeaderFixture::whenMenuIsUp(const std::function<void(QMenu&)>& look)
+{
+    whenUp<QMenu>([this] { return presets().menu; }, look);
+}
