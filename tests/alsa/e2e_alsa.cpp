@@ -19,27 +19,32 @@ using Messages = QList<Message>;
 const QString programPath = QStringLiteral(SORVANE_PROGRAM);
 const QString virtualIn = QStringLiteral("Sorvane MIDI In");
 const QString virtualOut = QStringLiteral("Sorvane MIDI Out");
-const std::bitset<12> ionian(0b101010110101);
+// Degree 0 in the lowest bit.
+const std::bitset<12> ionian(0b101010110101), pentatonic(0b001010010101);
 constexpr int waitMs = 30000;
 
+/// White keys: with the power on a black one would recall its preset.
 Messages played()
 {
     Messages messages;
     for (int note = 50; note <= 72; ++note)
-        messages += Messages{{0x90, note, note}, {0x80, note, 64}};
+        if (isWhite(note))
+            messages += Messages{{0x90, note, note}, {0x80, note, 64}};
     return messages;
 }
 
-/// What played() becomes where each key in turn passes through the given tonics.
-Messages mappedThrough(const QList<int>& tonics)
+/// What played() becomes where each key passes through the given mappings in turn. All but the last must play
+/// white notes only.
+Messages mappedThrough(const QList<MappingRule>& mappings)
 {
     Messages messages;
     for (int note = 50; note <= 72; ++note) {
+        if (!isWhite(note))
+            continue;
         int pitch = note;
-        for (const int tonic : tonics)
-            pitch = pitch != -1 && isWhite(pitch) ? MappingRule(tonic, ionian).target.at(pitch) : -1;
-        if (pitch != -1)
-            messages += Messages{{0x90, pitch, note}, {0x80, pitch, 0}};
+        for (const MappingRule& mapping : mappings)
+            pitch = mapping.target.at(pitch);
+        messages += Messages{{0x90, pitch, note}, {0x80, pitch, 0}};
     }
     return messages;
 }
@@ -104,9 +109,12 @@ void EndToEndAlsa::virtualPortsCarryTheMappedNotes()
     AlsaPlayer player;
     QVERIFY(player.isOpen());
     QVERIFY(player.connectOutputTo(virtualIn) && player.connectInputFrom(virtualOut));
-    QCOMPARE(player.answerTo(played()), mappedThrough({2}));
+    QCOMPARE(player.answerTo(played()), mappedThrough({MappingRule(2, ionian)}));
     const Messages passing{{0x92, 60, 5}, {0xB0, 64, 127}, {0xE0, 1, 2}};
     QCOMPARE(player.answerTo(passing), passing);
+    // D# Iwato by its black key.
+    QCOMPARE(player.answerTo({{0x90, 75, 1}, {0x90, 62, 5}, {0x80, 75, 0}, {0x80, 62, 0}}),
+             (Messages{{0x90, 64, 5}, {0x80, 64, 0}}));
     static_cast<void>(player.answerTo({{0x90, 49, 1}, {0x80, 49, 0}})); // the power key
     QCOMPARE(player.answerTo({{0x90, 61, 7}, {0x80, 61, 7}}), (Messages{{0x90, 61, 7}, {0x80, 61, 0}}));
     QCOMPARE(program.stop(), 0);
@@ -144,14 +152,14 @@ void EndToEndAlsa::twoProgramsInARow()
 {
     AlsaPlayer player;
     ProgramUnderTest first(programPath), second(programPath);
-    QVERIFY(first.start({"--headless", "--power", "on", "--tonic", "G"}));
+    QVERIFY(first.start({"--headless", "--power", "on", "--scale", "xoxoxooxoxoo"}));
     QVERIFY(QTest::qWaitFor([&] { return player.portsNamed(virtualOut).size() == 1; }, waitMs));
     QVERIFY(player.connectOutputTo(virtualIn, 0));
     QVERIFY(second.start({"--headless", "--power", "on", "--tonic", "D", "--in", "Sorvane MIDI Out"}));
     QVERIFY(player.connectInputFrom(virtualOut, 1));
     QVERIFY(QTest::qWaitFor(
         [&] { return player.answerTo({}).isEmpty() && player.portsNamed(virtualIn).size() == 2; }, waitMs));
-    QCOMPARE(player.answerTo(played()), mappedThrough({7, 2}));
+    QCOMPARE(player.answerTo(played()), mappedThrough({MappingRule(0, pentatonic), MappingRule(2, ionian)}));
     QCOMPARE(first.stop(), 0);
     QCOMPARE(second.stop(), 0);
 }
