@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-/// The application object. An error that a port raises while a message is sent ends that message, not the
+/// The application object. An error that a port raises where nobody waits for one ends that event, not the
 /// program.
 class Application : public QApplication
 {

@@ -89,7 +89,8 @@ public:
     [[nodiscard]] ResizableItem* findInNote(int note) const;
     /// Runs on a MIDI library thread: copies the bytes and emits signalKey(), nothing else.
     void inSigReceived(double deltaTime, std::vector<unsigned char>* message, void* userData);
-    /// Writes the first three bytes of a message, which must have them, to every open output port.
+    /// Writes the first three bytes of a message, which must have them, to every open output port. A port that
+    /// fails is warned of and passed over.
     void sendMidiOut(const QList<int>* message);
     [[nodiscard]] bool checkActiveMidiOut() const;
     /// Lets the pressed key be seen before a recall. MIDI messages that arrive meanwhile wait for the recall,

@@ -5,6 +5,9 @@
 #include "app/MidiService.h"
 #include "keys/PowerItem.h"
 #include "keys/key_roles.h"
+#include "logging/categories.h"
+
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -115,9 +118,10 @@ void MainWnd::showBeforeRecall()
 {
     if (holdMessages)
         return;
-    holdMessages = true;
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    holdMessages = false;
+    {
+        const QScopedValueRollback<bool> hold(holdMessages, true);
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
     // For a recall by hand; one by MIDI runs inside playWaiting(), which goes on.
     if (!waitingMessages.isEmpty())
         QMetaObject::invokeMethod(this, &MainWnd::playWaiting, Qt::QueuedConnection);
@@ -130,9 +134,15 @@ void MainWnd::sendMidiOut(const QList<int>* message)
     const std::vector<unsigned char> bytes{static_cast<unsigned char>(message->at(0)),
                                            static_cast<unsigned char>(message->at(1)),
                                            static_cast<unsigned char>(message->at(2))};
-    for (RtMidiOut* port : qAsConst(outPorts))
-        if (port)
+    for (RtMidiOut* port : qAsConst(outPorts)) {
+        if (!port)
+            continue;
+        try {
             port->sendMessage(&bytes);
+        } catch (const RtMidiError& error) { // the other ports get theirs, and the key's state stays whole
+            qCWarning(lcApp, "MIDI error: %s", error.what());
+        }
+    }
 }
 
 bool MainWnd::checkActiveMidiOut() const

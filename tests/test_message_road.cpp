@@ -45,6 +45,7 @@ private slots:
     void midiPressLeavesWithItsVelocity();
     void noteZeroIsSuppressed();
     void bothOpenPortsReceiveEachMessage();
+    void portThatFailsHoldsNeitherTheOthersNorTheKey();
     void withoutPortsThePictureStillChanges();
     void longerListSendsThreeBytes();
 
@@ -259,6 +260,19 @@ void TestMessageRoad::bothOpenPortsReceiveEachMessage()
     play({0x80, 60, 0});
     QCOMPARE(second->messages().size(), std::size_t(1));
     QVERIFY(window->checkActiveMidiOut());
+}
+
+void TestMessageRoad::portThatFailsHoldsNeitherTheOthersNorTheKey()
+{
+    auto* second = new RecordingPort;
+    window->outPorts.append(second);
+    port->fail();
+    QTest::ignoreMessage(QtWarningMsg, "MIDI error: no room");
+    play({0x90, 60, 100});
+    QTest::ignoreMessage(QtWarningMsg, "MIDI error: no room");
+    play({0x80, 60, 0});
+    QCOMPARE(second->takeLists(), (QList<QList<int>>{{0x90, 60, 100}, {0x80, 60, 0}}));
+    QCOMPARE(window->inNoteHeld.at(60), 0);
 }
 
 void TestMessageRoad::withoutPortsThePictureStillChanges()

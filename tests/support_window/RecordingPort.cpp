@@ -16,10 +16,13 @@ public:
     void initialize(const std::string&) override {}
     void sendMessage(const unsigned char* message, size_t size) override
     {
+        if (failing)
+            throw RtMidiError("no room", RtMidiError::DRIVER_ERROR);
         sent.emplace_back(message, message + size);
     }
 
     std::vector<RecordingPort::Message> sent;
+    bool failing = false;
 };
 
 RecordingApi& recorder(const MidiApi* api)
@@ -63,4 +66,9 @@ QList<QList<int>> RecordingPort::takeLists()
 void RecordingPort::clear()
 {
     recorder(rtapi_).sent.clear();
+}
+
+void RecordingPort::fail()
+{
+    recorder(rtapi_).failing = true;
 }

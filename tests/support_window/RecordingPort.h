@@ -20,4 +20,6 @@ public:
     /// The same as lists of bytes, the program's own form of a message.
     [[nodiscard]] QList<QList<int>> takeLists();
     void clear();
+    /// From now on sending throws.
+    void fail();
 };
