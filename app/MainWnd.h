@@ -89,8 +89,8 @@ public:
     [[nodiscard]] ResizableItem* findInNote(int note) const;
     /// Runs on a MIDI library thread: copies the bytes and emits signalKey(), nothing else.
     void inSigReceived(double deltaTime, std::vector<unsigned char>* message, void* userData);
-    /// Writes the first three bytes of a message, which must have them, to every open output port. A port that
-    /// fails is warned of and passed over.
+    /// Writes the first three bytes of a message, which must have them, to every open output port. A port
+    /// that fails is warned of and passed over.
     void sendMidiOut(const QList<int>* message);
     [[nodiscard]] bool checkActiveMidiOut() const;
     /// Lets the pressed key be seen before a recall. MIDI messages that arrive meanwhile wait for the recall,
@@ -229,7 +229,7 @@ private:
     };
     std::vector<Place> places;
     QList<QGraphicsItem*> selectorItems; ///< what sleeps with the power off
-    QList<QList<int>> waitingMessages;   ///< arrived during a recall
+    QList<QList<int>> waitingMessages;   ///< received and not yet played
     bool holdMessages = false;
     std::array<QGraphicsPixmapItem*, 12> scaleSquares{};
     std::array<QPixmap, 13> squarePlates; ///< by ordinal; 0 is blank

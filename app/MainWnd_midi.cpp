@@ -61,8 +61,8 @@ void MainWnd::pushKeySlot(QList<int> message) // NOLINT(performance-unnecessary-
         return;
     // Kept: only the first channel presses a key, any channel releases it.
     if (inNoteHeld.at(note) == 0 && velocity != 0 && status == noteOnFirstChannel) {
+        inNoteHeld[note] = 1; // before the press: it may run the event loop
         pressInKey(key, velocity);
-        inNoteHeld[note] = 1;
     } else if (inNoteHeld.at(note) == 1 && (velocity == 0 || isNoteOff(status))) {
         key_roles::setVelocity(key, 0);
         key->releaseKey();
@@ -122,7 +122,7 @@ void MainWnd::showBeforeRecall()
         const QScopedValueRollback<bool> hold(holdMessages, true);
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
-    // For a recall by hand; one by MIDI runs inside playWaiting(), which goes on.
+    // For a key pressed by the pointer; one pressed by MIDI runs inside playWaiting(), which goes on.
     if (!waitingMessages.isEmpty())
         QMetaObject::invokeMethod(this, &MainWnd::playWaiting, Qt::QueuedConnection);
 }

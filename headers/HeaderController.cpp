@@ -9,6 +9,8 @@
 #include "keys/TonicKeyController.h"
 #include "keys/key_roles.h"
 
+#include <QMenu>
+
 using namespace selector_access;
 
 namespace {
@@ -113,6 +115,8 @@ HeaderItem* HeaderController::findHeader(header_status status) const
 
 void HeaderController::setHeadersStatus(bool visible)
 {
+    if (!visible)
+        menu->close(); // it must not outlive its flag
     for (HeaderItem* header : qAsConst(headers))
         header->setVisible(visible && !isUnderPowerButton(key_roles::pitch(header)));
 }

@@ -34,7 +34,7 @@ public:
     /// The first header of that key, or null.
     [[nodiscard]] HeaderItem* findHeader(int keyNumber) const;
     [[nodiscard]] HeaderItem* findHeader(header_status status) const;
-    /// Shows all headers but the one under the power button, or hides all.
+    /// Shows all headers but the one under the power button, or hides all and closes their menu.
     void setHeadersStatus(bool visible);
     /// Keeps the pitch position in a record; not valid, it clears the mark and leaves the old position.
     void storePitchPosition(header_data& data, bool valid) const;

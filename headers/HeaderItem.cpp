@@ -106,7 +106,7 @@ QPainterPath HeaderItem::shape() const
     path.setFillRule(Qt::WindingFill);
     path.addRect(box);
     path.addRect(
-        QRectF(QPointF(tonicRect.left(), box.bottom()), QPointF(tonicRect.right() + 1, powerPoint.y())));
+        QRectF(QPointF(tonicRect.left(), box.bottom()), QPointF(tonicRect.right() + 1, powerPoint.y() + 2)));
     return path;
 }
 

@@ -3,6 +3,7 @@
 #include "library/scale_data.h"
 
 #include <QList>
+#include <QLocale>
 #include <QMap>
 #include <QString>
 #include <QVector>
@@ -16,6 +17,8 @@ public:
     [[nodiscard]] QList<QString>* wordsOf(const QString& category);
     [[nodiscard]] const QList<QString>* wordsOf(const QString& category) const;
     void moveToFront(const QString& category);
+    /// False after a rename, and where the default locale is no more the one of the last sort.
+    [[nodiscard]] bool isSorted() const { return namesSorted && sortedBy == QLocale(); }
     /// Sorts the names, and the words with them.
     void sortCategories();
 
@@ -25,6 +28,7 @@ public:
     int currentCategoryIdx = -1;
     QList<QString> recentCategories; ///< the most recently selected first
     QVector<QString> categoryNames;
-    bool namesSorted = true;            ///< until a category is renamed
+    bool namesSorted = true; ///< until a category is renamed
+    QLocale sortedBy;
     QMap<QString, int> currentScaleIdx; ///< by category, -1 for none
 };

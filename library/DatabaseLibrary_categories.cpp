@@ -47,6 +47,7 @@ void DatabaseLibraryPrivate::sortCategories()
     categoryNames = names;
     categoryScales = words;
     namesSorted = true;
+    sortedBy = QLocale();
 }
 
 void DatabaseLibrary::sortStringVector(QVector<QString>& strings)
@@ -59,7 +60,7 @@ void DatabaseLibrary::insertCategory(const QString& name)
 {
     if (d->categoryNames.contains(name))
         return;
-    if (!d->namesSorted)
+    if (!d->isSorted())
         d->sortCategories();
     const auto& names = qAsConst(d->categoryNames);
     const auto place = std::upper_bound(names.begin(), names.end(), name, CollatedOrder());

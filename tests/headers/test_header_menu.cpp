@@ -26,6 +26,7 @@ private slots:
 
     // Opening
     void menuOpensOverTheHeader();
+    void menuGoesWithThePower();
     void contextMenuGoesToTheController();
     void contextMenuWithoutControllerDoesNothing();
 
@@ -141,6 +142,20 @@ void TestHeaderMenu::menuOpensOverTheHeader()
         QCOMPARE(header(key)->pixmap().toImage(), before);
     }
     QCOMPARE(seen, 2);
+}
+
+// An entry chosen with the power off would store the selectors in a header that was never loaded into them.
+void TestHeaderMenu::menuGoesWithThePower()
+{
+    show();
+    window->setPower(true);
+    whenMenuIsUp([&](QMenu& menu) {
+        window->switchPower();
+        QVERIFY(!menu.isVisible());
+        menu.close(); // lest a failure hangs
+    });
+    openMenuByPointer(25);
+    QCOMPARE(seen, 1);
 }
 
 void TestHeaderMenu::contextMenuGoesToTheController()

@@ -103,6 +103,7 @@ private slots:
     void loadDefaultLosesUserScales();
     void categoriesCollateAlikeInEveryLocale_data();
     void categoriesCollateAlikeInEveryLocale();
+    void categoriesAreSortedAnewInAnotherLocale();
 
     // The presets of a fresh window
     void presetTakesItsNamesFromTheLibrary();
@@ -303,6 +304,24 @@ void TestDefaultTables::categoriesCollateAlikeInEveryLocale()
     wanted.insert(1, QStringLiteral("2 - A"));
     wanted << QStringLiteral("11 - Z") << QStringLiteral("alpha") << QStringLiteral("Zebra");
     QCOMPARE(extended, wanted);
+}
+
+void TestDefaultTables::categoriesAreSortedAnewInAnotherLocale()
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    const QString umlaut(QChar(0xC4)); // a kind of A in German, a letter behind Z in Swedish
+    DatabaseLibrary library;
+    library.clear();
+    library.insertCategory(QStringLiteral("Z"));
+    library.insertCategory(umlaut);
+    const QVector<QString> german = library.categories();
+    QLocale::setDefault(QLocale(QStringLiteral("sv_SE")));
+    library.insertCategory(QStringLiteral("B"));
+    const QVector<QString> swedish = library.categories();
+    QLocale::setDefault(before);
+    QCOMPARE(german, (QVector<QString>{umlaut, "Z"}));
+    QCOMPARE(swedish, (QVector<QString>{"B", "Z", umlaut}));
 }
 
 // The presets of a fresh window
