@@ -15,6 +15,7 @@
 
 #include <QCloseEvent>
 #include <QGraphicsScene>
+#include <QToolTip>
 
 MainWnd* mainWnd = nullptr;
 QApplication* app = nullptr;
@@ -24,6 +25,18 @@ namespace {
 const QPointF powerButtonStart(288, 28);
 constexpr int powerPitch = 49;
 constexpr int midiNotes = 128;
+
+/// Tool tips look like the presets' menu.
+void dressToolTips()
+{
+    QPalette palette = QToolTip::palette();
+    palette.setColor(QPalette::ToolTipBase, QColor(0x3a, 0x38, 0x35));
+    palette.setColor(QPalette::ToolTipText, QColor(0xeb, 0xe7, 0xdc));
+    QToolTip::setPalette(palette);
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(11);
+    QToolTip::setFont(font);
+}
 
 } // namespace
 
@@ -76,6 +89,7 @@ void MainWnd::setUpWindow()
         "QDialog#mainDialog {background-image: url(:/Resources/Background/BG_off.png);background-position: "
         "bottom left; background-repeat: no-repeat;}QGraphicsView {background: transparent}"));
     setWindowFlags(Qt::Window);
+    dressToolTips();
 }
 
 void MainWnd::createPowerItem()

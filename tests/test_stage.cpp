@@ -10,6 +10,7 @@
 #include "screen/CenterScreen.h"
 
 #include <QSignalSpy>
+#include <QToolTip>
 #include <QtTest>
 
 namespace {
@@ -48,6 +49,7 @@ private slots:
     void sizeStaysWithinItsBounds();
     void viewsHaveNoFrameAndNoScrollBars();
     void mainMembersStartAsDescribed();
+    void toolTipsCanBeRead();
 
     // The keyboards
     void bothScenesHoldTheSameKeysInTheSameOrder();
@@ -184,6 +186,34 @@ void TestStage::mainMembersStartAsDescribed()
     QVERIFY(!window->midiOutOpen);
     QVERIFY(QMetaType::type("IntList") != QMetaType::UnknownType);
     QVERIFY(window->ui.backgroundGraphicsView->testAttribute(Qt::WA_TransparentForMouseEvents));
+}
+
+// A style sheet without a selector is meant for one widget and reaches its tool tips too.
+void TestStage::toolTipsCanBeRead()
+{
+    window->show();
+    QList<QWidget*> askers = {window->ui.inKeyboardGraphicsView->viewport()};
+    for (QWidget* child : window->findChildren<QWidget*>())
+        if (!child->toolTip().isEmpty())
+            askers.append(child);
+    QVERIFY(askers.size() > 6);
+    for (QWidget* asker : qAsConst(askers)) {
+        QToolTip::showText(window->mapToGlobal(QPoint(100, 100)), QStringLiteral("MMMM"), asker);
+        QWidget* tip = nullptr;
+        for (QWidget* top : QApplication::topLevelWidgets())
+            if (top->inherits("QTipLabel") && top->isVisible())
+                tip = top;
+        QVERIFY(tip);
+        const QImage image = tip->grab().toImage();
+        const QPalette wanted = QToolTip::palette();
+        QCOMPARE(image.pixelColor(2, image.height() / 2), wanted.color(QPalette::ToolTipBase));
+        int lightest = 0;
+        for (int x = 3; x < image.width() - 3; ++x)
+            lightest = qMax(lightest, qGray(image.pixel(x, image.height() / 2)));
+        QVERIFY2(lightest > 180, qPrintable(asker->objectName()));
+        QToolTip::hideText();
+        tip->close();
+    }
 }
 
 void TestStage::bothScenesHoldTheSameKeysInTheSameOrder()
