@@ -48,6 +48,8 @@ public:
     /// Asks before something is lost. True if the user pressed the button of that text; the other is
     /// "Cancel".
     [[nodiscard]] bool confirmAlert(const QString& text, const QString& accept);
+    /// Keys select instead of sounding.
+    [[nodiscard]] bool isLearning() const { return learnTonic || learnScale; }
     void createFloatingSwitches() {} ///< empty: there are no floating switches
 
     // Window (MainWnd_window.cpp)
@@ -83,6 +85,8 @@ public:
                                             const QRect& rectangle) const;
     /// Numbers the square of a scale degree, 0 to 11, with 1 to 12; ordinal 0 leaves it blank.
     void showScaleSquare(int degree, int ordinal);
+    /// Ends what the pointer holds on the stage, before something takes the pointer away.
+    void endGestures();
 
     // MIDI (MainWnd_midi.cpp)
     /// The key of a note on the input keyboard, or null.
@@ -110,14 +114,18 @@ public:
     /// The number as a picture, 8 pixels high; at most two digits of it. An unknown type gives a null picture
     /// or, for two digits and negative numbers, a blank one.
     [[nodiscard]] QPixmap getDigitalPix(digit_type type, int number) const;
+    /// The number of a degree, 1 to 12, as the bars show it; blank for another number.
+    [[nodiscard]] const QPixmap& degreeDigits(int number) const;
 
     CenterScreen* centerScreen = nullptr;
     DatabaseLibrary library;
     PowerItem* powerItem = nullptr;
     bool dialogOpen = false;
-    bool learnTonic = false;   ///< set by nobody yet
-    bool learnScale = false;   ///< set by nobody yet
-    bool learnPending = false; ///< cleared by a key that is pushed in a learn mode
+    bool learnTonic = false;        ///< set by nobody yet
+    bool learnScale = false;        ///< set by nobody yet
+    bool learnPending = false;      ///< cleared by a key that is pushed in a learn mode
+    bool headerEraseMode = false;   ///< set by nobody yet: a press on a header erases or resets it
+    bool headerEraseResets = false; ///< set by nobody yet: it resets
     QList<QGraphicsItem*> listItemsTonic;
     KeyControllerBase* tonicController = nullptr;
     KeyControllerBase* scaleController = nullptr;
@@ -184,8 +192,8 @@ private:
     void fillSceneIn();
     void createHeaders();
     void fillSceneOut();
-    void createAnchorIN() {}  ///< the anchors are not there yet
-    void createAnchorOUT() {} ///< the anchors are not there yet
+    void createAnchorIN();
+    void createAnchorOUT();
     void installFilters();
 
     // Window (MainWnd_window.cpp)
@@ -233,6 +241,7 @@ private:
     bool holdMessages = false;
     std::array<QGraphicsPixmapItem*, 12> scaleSquares{};
     std::array<QPixmap, 13> squarePlates; ///< by ordinal; 0 is blank
+    std::array<QPixmap, 13> barDigits;    ///< by degree number; 0 is blank
     PortKeeper<RtMidiIn> inPortKeeper{inPorts};
     PortKeeper<RtMidiOut> outPortKeeper{outPorts};
 };

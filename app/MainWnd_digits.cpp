@@ -54,6 +54,8 @@ void MainWnd::createDigits()
     digitsAnchorOut = cutSheet(digit_anchor_out);
     digitsBar = cutSheet(digit_bar);
     digitsSquare = cutSheet(digit_square);
+    for (int number = 1; number < static_cast<int>(barDigits.size()); ++number)
+        barDigits[static_cast<std::size_t>(number)] = getDigitalPix(digit_bar, number);
 }
 
 QPixmap MainWnd::getDigitalPix(digit_type type, int number) const
@@ -74,4 +76,10 @@ QPixmap MainWnd::getDigitalPix(digit_type type, int number) const
     if (!negative)
         return joined(glyphAt(0), glyphAt(1), QPixmap(), pairWidth);
     return joined(digits.value(minusSign), glyphAt(1), glyphAt(2), negativeWidth);
+}
+
+const QPixmap& MainWnd::degreeDigits(int number) const
+{
+    const auto i = static_cast<std::size_t>(number);
+    return barDigits.at(number > 0 && i < barDigits.size() ? i : 0);
 }

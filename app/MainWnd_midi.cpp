@@ -73,7 +73,7 @@ void MainWnd::pushKeySlot(QList<int> message) // NOLINT(performance-unnecessary-
 void MainWnd::pressInKey(ResizableItem* key, int velocity)
 {
     const bool powerKey = key_roles::isBlack(key) && key_roles::pitch(key) == key_roles::pitch(powerItem);
-    if (powerKey && !learnTonic && !learnScale) {
+    if (powerKey && !isLearning()) {
         switchPower();
         return;
     }
@@ -84,7 +84,7 @@ void MainWnd::pressInKey(ResizableItem* key, int velocity)
 
 void MainWnd::midiThru(QList<int> message) // NOLINT(performance-unnecessary-value-param): a queued slot
 {
-    if (learnTonic || learnScale || message.size() != messageSize || isPlayed(message.at(0)))
+    if (isLearning() || message.size() != messageSize || isPlayed(message.at(0)))
         return;
     sendMidiOut(&message);
 }
@@ -129,7 +129,7 @@ void MainWnd::showBeforeRecall()
 
 void MainWnd::sendMidiOut(const QList<int>* message)
 {
-    if (learnTonic || learnScale || !midiService().mayWrite())
+    if (isLearning() || !midiService().mayWrite())
         return;
     const std::vector<unsigned char> bytes{static_cast<unsigned char>(message->at(0)),
                                            static_cast<unsigned char>(message->at(1)),

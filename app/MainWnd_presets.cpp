@@ -107,8 +107,7 @@ bool MainWnd::findPowerItemPosition(QPointF pos)
         return false;
     const qreal halfHeight = powerItem->boundingRect().height() / 2;
     const QRectF place(pos.x() + 3, pos.y() + halfHeight, 10, halfHeight);
-    headerController->setHeadersStatus(true); // hidden items are not found
-    const auto items = scene->items(place, Qt::IntersectsItemShape, Qt::DescendingOrder);
+    const auto items = scene->itemsAmongHeaders(place);
     const bool found = std::any_of(items.begin(), items.end(), [&](QGraphicsItem* item) {
         return key_roles::isHeader(item) && scene->swapHeader(powerItem, static_cast<HeaderItem*>(item));
     });
@@ -132,6 +131,7 @@ bool MainWnd::confirmAlert(const QString& text, const QString& accept)
         else if (auto* button = qobject_cast<QAbstractButton*>(box.focusWidget()))
             button->click();
     });
+    endGestures();
     const QScopedValueRollback<bool> open(dialogOpen, true);
     box.exec();
     return box.clickedButton() == acceptButton;

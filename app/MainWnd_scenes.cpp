@@ -173,3 +173,9 @@ void MainWnd::fillSceneOut()
     addCheek(scene, KeyShine::yellow, {907, 26});
     scene->setBackgroundBrush(Qt::transparent);
 }
+
+void MainWnd::endGestures()
+{
+    for (const QGraphicsView* view : {ui.inKeyboardGraphicsView, ui.outKeyboardGraphicsView})
+        static_cast<DiagramScene*>(view->scene())->loseHand();
+}

@@ -1,17 +1,120 @@
 #include "headers/AnchorsGroup.h"
 
+#include "app/MainWnd.h"
+#include "headers/DiagramScene.h"
+#include "headers/HeaderController.h"
+#include "headers/anchor_snap.h"
+#include "keys/PowerItem.h"
+#include "keys/key_roles.h"
+
+#include <QGraphicsSceneMouseEvent>
+
 namespace {
 
-constexpr qreal barLeft = -374, barRight = 476; // of an anchor's x in the scene
 constexpr qreal dimmed = 0.01;
+constexpr qreal windowEdge = 178; // scene y of the bar's end
 
 } // namespace
+
+AnchorsGroup::AnchorsGroup()
+    : gridRight(anchor_snap::grid(pitch_mapping::whiteKeyWidth)),
+      gridLeft(anchor_snap::grid(-pitch_mapping::whiteKeyWidth))
+{
+    setAcceptedMouseButtons(Qt::LeftButton);
+}
+
+QGraphicsItem* AnchorsGroup::findAnchorByName(const QString& name) const
+{
+    const auto anchors = childItems();
+    const auto found = std::find_if(anchors.begin(), anchors.end(), [&name](const QGraphicsItem* anchor) {
+        return key_roles::anchorName(anchor) == name;
+    });
+    return found != anchors.end() ? *found : nullptr;
+}
 
 void AnchorsGroup::refresh()
 {
     const auto anchors = childItems();
     for (QGraphicsItem* anchor : anchors) {
         const qreal x = anchor->scenePos().x();
-        anchor->setOpacity(x > barRight || x < barLeft ? dimmed : 1);
+        anchor->setOpacity(x > anchor_snap::barRight || x < anchor_snap::barLeft ? dimmed : 1);
     }
+}
+
+// A drag that loses the pointer ends as if the hand had let go.
+bool AnchorsGroup::sceneEvent(QEvent* event)
+{
+    if (event->type() == QEvent::UngrabMouse && isPressed) {
+        QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
+        if (scene->anchorDrag)
+            mouseReleaseEvent(&release);
+        isPressed = false;
+    }
+    return QGraphicsItemGroup::sceneEvent(event);
+}
+
+// Above the bar lie the keys, which get the press then.
+void AnchorsGroup::mousePressEvent(QGraphicsSceneMouseEvent* event)
+{
+    isPressed = true;
+    event->setAccepted(event->scenePos().y() >= anchor_snap::barTop);
+}
+
+void AnchorsGroup::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (!isPressed) {
+        event->ignore();
+        QGraphicsItemGroup::mouseMoveEvent(event);
+        return;
+    }
+    scene->anchorDrag = true;
+    event->setAccepted(event->scenePos().y() >= anchor_snap::barTop);
+    QGraphicsItemGroup::mouseMoveEvent(event);
+    setPos(placeFor(event->scenePos()), 0);
+    powerItem->changeScaleByTonic();
+    refresh();
+}
+
+int AnchorsGroup::placeFor(QPointF pointer) const
+{
+    const int x = static_cast<int>(pos().x());
+    int place = anchor_snap::nearest(x > 0 ? gridRight : gridLeft, x);
+    // The hand may wander off the bar; the anchor that it holds stays in it.
+    const QPointF onBar(pointer.x(), qBound(anchor_snap::barTop, pointer.y(), windowEdge));
+    const auto items = scene->items(onBar, Qt::IntersectsItemShape, Qt::DescendingOrder);
+    for (const QGraphicsItem* item : items)
+        if (isAnchor(item))
+            place = anchor_snap::stop(item->scenePos().x(), item->x()).value_or(place);
+    return place;
+}
+
+bool AnchorsGroup::isAnchor(const QGraphicsItem* item) const
+{
+    const auto* group = qgraphicsitem_cast<const QGraphicsItemGroup*>(item);
+    const auto isIn = [group](const QList<QGraphicsItemGroup*>& list) {
+        return std::find(list.begin(), list.end(), group) != list.end();
+    };
+    return group && (group == powerItem->mainAnchorIn || isIn(powerItem->anchorsInRight) ||
+                     isIn(powerItem->anchorsInLeft));
+}
+
+void AnchorsGroup::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (event->buttons() & Qt::LeftButton)
+        return; // another button: the drag goes on
+    isPressed = false;
+    scene->anchorDrag = false;
+    // The base forgets where the drag began only when it sees no button down.
+    QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
+    QGraphicsItemGroup::mouseReleaseEvent(&release);
+    storePlace();
+    powerItem->remap();
+    scene->anchorDrag = false;
+}
+
+// Kept: whether the preset brings its position back at a recall is decided elsewhere; this only notes it.
+void AnchorsGroup::storePlace() const
+{
+    if (HeaderItem* active = mainWnd->headerController->activeHeader)
+        active->record.anchorPos = static_cast<int>(pos().x());
 }

@@ -1,30 +1,19 @@
+// One gesture from press to release, and the glissando over keys.
+
 #include "headers/DiagramScene.h"
 
 #include "app/MainWnd.h"
-#include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
 #include "keys/key_roles.h"
-#include "logging/categories.h"
 
-#include <QWidget>
+#include <QGraphicsSceneMouseEvent>
+#include <QGraphicsView>
 
 namespace {
 
-const QPointF powerOffset(-4, -18); // of the power button from its key
-
-bool isActiveHeader(const HeaderItem* header)
+bool isKey(const ResizableItem* item)
 {
-    return header->status() == header_active || header->status() == header_switch_active;
-}
-
-HeaderItem* toHeader(ResizableItem* item)
-{
-    return key_roles::isHeader(item) ? static_cast<HeaderItem*>(item) : nullptr;
-}
-
-HeaderItem* headerUnder(const PowerItem* power)
-{
-    return mainWnd->headerController->findHeader(key_roles::pitch(power));
+    return item && !key_roles::isPower(item) && !key_roles::isHeader(item);
 }
 
 } // namespace
@@ -34,72 +23,116 @@ DiagramScene::DiagramScene(PowerItem* power, QWidget* widget)
 {
 }
 
-bool DiagramScene::swapHeader(ResizableItem* prev, ResizableItem* cur)
+void DiagramScene::clearItems()
 {
-    qCDebug(lcHeaders) << "DiagramScene::swapHeader";
-    if (prev == cur)
-        return false;
-    if (cur == powerItem)
-        return dropPower(prev, powerItem);
-    if (HeaderItem* header = toHeader(cur))
-        return dropHeader(prev, header);
-    return false;
+    lastItem = nullptr;
+    dropTarget = nullptr;
+    currentItem = nullptr;
 }
 
-void DiagramScene::movePowerTo(const QGraphicsItem* header, PowerItem* power)
+void DiagramScene::beginGesture(const QGraphicsSceneMouseEvent& event)
 {
-    const ResizableItem* key = mainWnd->findInNote(key_roles::headerSlot(header));
-    if (!key)
+    if (event.button() != Qt::LeftButton)
         return;
-    power->setLastPos(key->pos() + powerOffset);
-    key_roles::setPitch(power, key_roles::pitch(key));
+    leftDown = true;
+    anchorDrag = false;
+    clearItems();
 }
 
-bool DiagramScene::dropPower(ResizableItem* prev, PowerItem* power) const
+void DiagramScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
-    power->showSwitch(true);
-    HeaderItem* target = toHeader(prev);
-    if (!target) {
-        qCDebug(lcHeaders) << "swap power and header exception: "
-                           << (prev ? key_roles::side(prev) : QStringLiteral("null prev"));
-        return false;
-    }
-    HeaderItem* left = headerUnder(power);
-    if (!left || target == left) {
-        qCDebug(lcHeaders) << "swap power and header the same exception";
-        return false;
-    }
-    target->swapHeadersData(left);
-    left->setStatus(isActiveHeader(target) ? header_active : header_deactive);
-    target->setStatus(header_deactive);
-    movePowerTo(target, power);
-    qCDebug(lcHeaders) << "swap power and header" << left->pos() << power->pos();
-    return true;
+    beginGesture(*event);
+    QGraphicsScene::mousePressEvent(event);
 }
 
-bool DiagramScene::dropHeader(ResizableItem* prev, HeaderItem* header) const
+// The second press of a quick pair is a press too.
+void DiagramScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
 {
-    if (!prev) {
-        header->setStatus(header_active);
-        return false;
+    beginGesture(*event);
+    QGraphicsScene::mouseDoubleClickEvent(event);
+}
+
+void DiagramScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+{
+    // Another button may come and go while the left one holds a key or an item.
+    if (!(event->buttons() & Qt::LeftButton)) {
+        const bool learning = mainWnd->isLearning();
+        if (lastItem && (learning || isKey(currentItem)))
+            lastItem->releaseKey();
+        if (leftDown && !learning)
+            settleDrop();
+        leftDown = false;
+        anchorDrag = false;
+        clearItems();
     }
-    if (HeaderItem* target = toHeader(prev)) {
-        if (headerCopyMode)
-            target->copyHeadersData(header);
-        else
-            target->swapHeadersData(header);
-        target->setStatus(header_active);
-        header->setStatus(header_deactive);
-        return true;
-    }
-    HeaderItem* under = prev == powerItem ? headerUnder(powerItem) : nullptr;
-    if (!under || under == header)
+    QGraphicsScene::mouseReleaseEvent(event);
+}
+
+bool DiagramScene::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowDeactivate)
+        loseHand();
+    return QGraphicsScene::event(event);
+}
+
+void DiagramScene::loseHand()
+{
+    if (QGraphicsItem* held = mouseGrabberItem())
+        held->ungrabMouse(); // the item ends its part, and ours
+}
+
+void DiagramScene::abandonGesture()
+{
+    if (lastItem && isKey(currentItem))
+        lastItem->releaseKey();
+    if (isDragging())
+        aimAt(nullptr);
+    leftDown = false;
+    clearItems();
+}
+
+bool DiagramScene::isDragging() const
+{
+    return currentItem && !isKey(currentItem) && currentItem->dragStarted;
+}
+
+void DiagramScene::mouseMoveHandle(QPointF pos)
+{
+    if (!leftDown || (currentItem && key_roles::name(currentItem).isEmpty()))
+        return;
+    if (isDragging())
+        drag(pos);
+    else
+        sweep(pos);
+}
+
+void DiagramScene::sweep(QPointF pos)
+{
+    if (currentItem && !isKey(currentItem) && !views().isEmpty())
+        currentItem = dynamic_cast<ResizableItem*>(itemAt(pos, views().first()->transform()));
+    if (!currentItem || isPassedOver(currentItem))
+        return;
+    if (!isKey(currentItem))
+        dropTarget = currentItem;
+    ResizableItem* key = currentItem;
+    if (lastItem == key)
+        return;
+    ResizableItem* left = lastItem;
+    lastItem = key; // before the press: a recall runs the event loop, and the gesture may end in there
+    if (!left)
+        return;
+    left->releaseKey();
+    key->pushKey();
+    if (mainWnd->midiOutOpen)
+        key->sendOutMidi(0x90, 0); // kept: note 0 sends nothing
+}
+
+// Keys that stand for presets or for the power are not swept: the last white key goes on sounding.
+bool DiagramScene::isPassedOver(const ResizableItem* key) const
+{
+    if (mainWnd->isLearning())
         return false;
-    under->swapHeadersData(header);
-    under->setStatus(header_active);
-    header->setStatus(header_deactive);
-    movePowerTo(header, powerItem);
-    powerItem->setSwithOn(true);
-    powerItem->showSwitch(true);
-    return true;
+    if (powerItem->isSwitchOn())
+        return key_roles::isIn(key) && key_roles::isBlack(key);
+    return key_roles::pitch(key) == key_roles::pitch(powerItem);
 }

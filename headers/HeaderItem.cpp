@@ -1,6 +1,7 @@
 #include "headers/HeaderItem.h"
 
 #include "app/MainWnd.h"
+#include "headers/DiagramScene.h"
 #include "headers/HeaderController.h"
 #include "keys/key_roles.h"
 #include "keys/pictures.h"
@@ -99,6 +100,11 @@ void HeaderItem::setStatus(header_status status)
         savedPixmap = face;
 }
 
+bool HeaderItem::isActive() const
+{
+    return currentStatus == header_active || currentStatus == header_switch_active;
+}
+
 QPainterPath HeaderItem::shape() const
 {
     const QRectF box = QRectF(nameRect1.united(nameRect2)).adjusted(-1, -2, 1, 1);
@@ -107,7 +113,7 @@ QPainterPath HeaderItem::shape() const
     path.addRect(box);
     path.addRect(
         QRectF(QPointF(tonicRect.left(), box.bottom()), QPointF(tonicRect.right() + 1, powerPoint.y() + 2)));
-    return path;
+    return path.translated(offset());
 }
 
 // Kept: the names are part of the record, but the face carries the tonic alone.
@@ -118,7 +124,7 @@ void HeaderItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option
         return;
     painter->setFont(font);
     painter->setPen(textColour(currentStatus));
-    painter->drawText(tonicRect, Qt::AlignCenter, record.nameTonic);
+    painter->drawText(QRectF(tonicRect).translated(offset()), Qt::AlignCenter, record.nameTonic);
 }
 
 void HeaderItem::copyHeadersData(const HeaderItem* source)
@@ -181,7 +187,9 @@ void HeaderItem::restorePos()
 
 void HeaderItem::contextMenuEvent(QGraphicsSceneContextMenuEvent* event)
 {
-    if (controller)
+    // A menu would swallow the release of a hand that holds something on the stage.
+    const auto* stage = qobject_cast<DiagramScene*>(scene());
+    if (controller && !(stage && stage->leftDown))
         controller->contextMenuEvent(this, event);
 }
 

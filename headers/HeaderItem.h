@@ -38,6 +38,8 @@ public:
     /// An active header becomes the controller's active one. Nothing happens if the status is unchanged.
     void setStatus(header_status status);
     [[nodiscard]] header_status status() const { return currentStatus; }
+    /// Active, lit as a drop target or not.
+    [[nodiscard]] bool isActive() const;
 
     /// Takes the names from the library. A scale that the library does not hold gets a temporary record
     /// named "User" and a number; a scale that is off or empty has no names.

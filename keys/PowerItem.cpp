@@ -2,10 +2,51 @@
 
 #include "keys/pictures.h"
 
+namespace {
+
+const QRectF button(3, 3, 13, 25);
+
+QPixmap picture(const char* state)
+{
+    return pictures::load(QStringLiteral(":/Resources/Power/POWERBUTTON%1.png").arg(QLatin1String(state)));
+}
+
+QPixmap laidOver(const QPixmap& base, const char* state)
+{
+    const QPixmap top = picture(state);
+    return pictures::overlay(base, top, QRect(QPoint(), top.size() / top.devicePixelRatio()));
+}
+
+} // namespace
+
 void PowerItem::showSwitch(bool on)
 {
-    setPixmap(pictures::load(on ? QStringLiteral(":/Resources/Power/POWERBUTTONOn.png")
-                                : QStringLiteral(":/Resources/Power/POWERBUTTONOff.png")));
+    setPixmap(picture(on ? "On" : "Off"));
+}
+
+void PowerItem::showHover()
+{
+    setPixmap(laidOver(picture(switchOn ? "On" : "Off"), "Hover"));
+}
+
+void PowerItem::showPressed()
+{
+    setPixmap(laidOver(laidOver(picture(switchOn ? "On" : "Off"), "Press"), "Hover"));
+}
+
+void PowerItem::showDrop()
+{
+    setPixmap(picture(switchOn ? "On_Drop" : "Off_Drop"));
+}
+
+void PowerItem::showAsTarget()
+{
+    setPixmap(picture("On_Switch"));
+}
+
+bool PowerItem::isOnButton(QPointF pos)
+{
+    return button.contains(pos);
 }
 
 void PowerItem::remap()

@@ -11,6 +11,14 @@ public:
     void setSwithOn(bool on) { switchOn = on; }
     /// The button's picture of a state, its own or one to come.
     void showSwitch(bool on);
+    /// The other pictures: lit under the pointer, pressed by it, in the hand, lit as a drop target.
+    void showHover();
+    void showPressed();
+    void showDrop();
+    void showAsTarget();
+    /// True on the square at the top of the picture, in item coordinates. Below it is the sleeve.
+    [[nodiscard]] static bool isOnButton(QPointF pos);
+
     /// Everything that follows from a change of tonic, scale, power or pitch position.
     void remap();
 

@@ -16,8 +16,12 @@ ResizableItem::ResizableItem()
 
 QPainterPath ResizableItem::shape() const
 {
+    const KeyShape kind = keyShape();
     QPainterPath path;
-    path.addRect(boundingRect());
+    if (kind == KeyShape::none)
+        path.addRect(boundingRect());
+    else
+        path.addRegion(key_pictures::outlineOf(kind));
     return path;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "keys/degree_marks.h"
 #include "keys/key_pictures.h"
 #include "keys/pitch_mapping.h"
 
@@ -17,7 +18,7 @@ class ResizableItem : public QGraphicsPixmapItem
 public:
     ResizableItem();
 
-    /// The whole picture: a hit counts at any device pixel ratio and costs no mask.
+    /// The key as it is seen, without the notches in which black keys lie; the whole picture of all else.
     QPainterPath shape() const override;
 
     // Press and release (ResizableItem_press.cpp)
@@ -55,10 +56,23 @@ public:
     void setAllKeysActive();
 
     // Marks along the keyboards, on the power item (ResizableItem_indexes.cpp)
-    /// Brings the greyed keys and the degree numbers up to date with the mapping.
+    /// Brings anchors, greyed keys and degree numbers up to date; `tonic` -1 asks getCurTonicModifier().
     void redrawAnchorAxis(int tonic);
+    /// Numbers the live white in keys by the degrees that they play; the bar is bare with the power off.
+    /// `count` is the number of degrees, -1 asks getCurScaleCount().
+    void drawIndexesIN(int count);
+    /// Numbers the scale on the out keys, in the octave of the tonic above middle C.
+    void drawIndexesOUT();
     /// Counts the scale degrees that are on, 1 to 12, and numbers the squares of the scale selector.
     int getCurScaleCount(bool);
+    /// No caller. Puts an in anchor on the white key that it touches; none leaves it.
+    void findPosForAnchor(QGraphicsItemGroup* anchor);
+    /// Pixels that a number on the out bar is moved by, from a table set by hand; 0 beyond it. `tonic` is 0
+    /// to 11, `ordinal` the number.
+    [[nodiscard]] int correctCoordAnchorOutByTonic(int tonic, int ordinal, int count) const;
+    /// The numbers that the bars show now, from left to right.
+    [[nodiscard]] const degree_marks::Marks& marksIn() const { return shownIn; }
+    [[nodiscard]] const degree_marks::Marks& marksOut() const { return shownOut; }
 
     bool isPushed = false;
     bool mouseHeld = false;
@@ -85,8 +99,15 @@ public:
     AnchorsGroup* anchorsGroup = nullptr;
 
 protected:
-    // Pointer (ResizableItem_pointer.cpp)
+    // Pointer (ResizableItem_pointer.cpp, ResizableItem_drag.cpp)
+    bool sceneEvent(QEvent* event) override;
+    void hoverEnterEvent(QGraphicsSceneHoverEvent* event) override;
+    void hoverMoveEvent(QGraphicsSceneHoverEvent* event) override;
+    void hoverLeaveEvent(QGraphicsSceneHoverEvent* event) override;
     void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
 
 private:
     [[nodiscard]] KeyShape keyShape() const;
@@ -103,4 +124,22 @@ private:
     [[nodiscard]] pitch_mapping::PitchSet scaleFromRoles() const;
     void writeIdentity();
     void deactivateUnmapped(ResizableItem* key, bool dead) const;
+
+    void placeInAnchors(int count);
+    void placeOutAnchors(int tonic);
+    void showMarks(QGraphicsItem* bar, const degree_marks::Marks& marks, degree_marks::Marks& shown) const;
+
+    void takeArmedGesture();
+    void pressPower(QPointF pos);
+    void pressHeader();
+    void sweep(QPointF pointer);
+    void dragPower(const QGraphicsSceneMouseEvent& event);
+    void dragAlong(const QGraphicsSceneMouseEvent& event);
+    void endDrag();
+    void releaseHeader();
+    void releasePower(QPointF pos);
+    void losePointer();
+
+    qreal gripX = 0; ///< where in its picture the hand took a dragged item, in pixels
+    degree_marks::Marks shownIn, shownOut;
 };

@@ -51,7 +51,7 @@ void ResizableItem::deactivateUnmapped(ResizableItem* key, bool dead) const
     if (!dead && key_roles::isBlack(key))
         sheet = KeySheet::in;
     if (key->isPushed)
-        sheet = mainWnd->learnTonic || mainWnd->learnScale ? KeySheet::learn : KeySheet::in;
+        sheet = mainWnd->isLearning() ? KeySheet::learn : KeySheet::in;
     key->showCell(sheet, KeyCell::idle, KeyShine::blue);
 }
 

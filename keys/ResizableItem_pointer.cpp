@@ -1,23 +1,202 @@
-// The pointer on keys, on the power button and on headers.
+// The pointer on keys, on the power button and on headers: hover, press, release. What happens between press
+// and release stands in ResizableItem_drag.cpp.
 
 #include "keys/ResizableItem.h"
 
 #include "app/MainWnd.h"
+#include "headers/DiagramScene.h"
 #include "headers/HeaderController.h"
+#include "keys/PowerItem.h"
 #include "keys/key_roles.h"
+#include "logging/categories.h"
 
 #include <QGraphicsSceneMouseEvent>
 
+namespace {
+
+bool isPowerOn()
+{
+    return mainWnd->powerItem->isSwitchOn();
+}
+
+} // namespace
+
+void ResizableItem::hoverEnterEvent(QGraphicsSceneHoverEvent* event)
+{
+    if (key_roles::isPower(this)) {
+        powerGrabbed = PowerItem::isOnButton(event->pos());
+        if (powerGrabbed)
+            mainWnd->powerItem->showHover();
+    }
+    QGraphicsPixmapItem::hoverEnterEvent(event);
+}
+
+void ResizableItem::hoverMoveEvent(QGraphicsSceneHoverEvent* event)
+{
+    if (key_roles::isPower(this)) {
+        const bool onButton = PowerItem::isOnButton(event->pos());
+        if (onButton && !powerGrabbed)
+            mainWnd->powerItem->showHover();
+        else if (!onButton && powerGrabbed)
+            mainWnd->powerItem->showSwitch(isPowerOn());
+        powerGrabbed = onButton;
+    }
+    QGraphicsPixmapItem::hoverMoveEvent(event);
+}
+
+void ResizableItem::hoverLeaveEvent(QGraphicsSceneHoverEvent* event)
+{
+    // A fast hand crosses the rim between two events; the light must not stay behind.
+    if (key_roles::isPower(this) && powerGrabbed)
+        mainWnd->powerItem->showSwitch(isPowerOn());
+    QGraphicsPixmapItem::hoverLeaveEvent(event);
+}
+
 void ResizableItem::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
-    const bool learning = mainWnd->learnScale || mainWnd->learnTonic;
-    if (key_roles::isHeader(this) && event->button() == Qt::LeftButton && !learning && !mainWnd->dialogOpen) {
-        HeaderController* presets = mainWnd->headerController;
-        presets->setActiveHeader(presets->findHeader(key_roles::pitch(this)), true);
-        event->accept();
+    if (event->button() != Qt::LeftButton || mainWnd->dialogOpen) {
+        event->ignore();
         return;
     }
-    // Keys and the power button do not answer to the pointer yet. Without this the base would drag the
-    // movable power button away from its key.
-    event->ignore();
+    mouseHeld = true;
+    qCDebug(lcKeys) << "ResizableItem::mousePressEvent" << event->scenePos() << key_roles::side(this)
+                    << key_roles::pitch(this) << key_roles::name(this) << key_roles::targetText(this);
+    takeArmedGesture();
+    // Not left to the base, which would turn the press down: the item wants the moves and the release.
+    event->accept();
+    if (key_roles::isPower(this)) {
+        pressPower(event->pos());
+    } else if (key_roles::isHeader(this) && !mainWnd->isLearning()) {
+        pressHeader();
+    } else {
+        qCDebug(lcKeys) << "ResizableItem::mousePressEvent push key";
+        pushKey();
+    }
+}
+
+void ResizableItem::takeArmedGesture()
+{
+    auto* stage = qobject_cast<DiagramScene*>(mainWnd->ui.inKeyboardGraphicsView->scene());
+    if (!stage || !stage->armed)
+        return;
+    stage->leftDown = true;
+    stage->lastItem = nullptr;
+    stage->dropTarget = nullptr;
+    stage->currentItem = this;
+    stage->armed = false;
+}
+
+// The button's square is pressed; its sleeve is what it is dragged by.
+void ResizableItem::pressPower(QPointF pos)
+{
+    pressedByMouse = true;
+    powerGrabbed = PowerItem::isOnButton(pos) && !mainWnd->isLearning();
+    if (powerGrabbed)
+        mainWnd->powerItem->showPressed();
+}
+
+void ResizableItem::pressHeader()
+{
+    pressedByMouse = true;
+    setFlag(ItemIsMovable);
+    HeaderController* presets = mainWnd->headerController;
+    auto* header = static_cast<HeaderItem*>(this);
+    presets->setActiveHeader(header, true);
+    if (!mainWnd->headerEraseMode)
+        return;
+    presets->contextHeader = header;
+    if (mainWnd->headerEraseResets)
+        presets->resetHdr();
+    else
+        presets->eraseHdr();
+}
+
+void ResizableItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (mainWnd->dialogOpen) {
+        event->ignore();
+        return;
+    }
+    QGraphicsPixmapItem::mouseDoubleClickEvent(event); // a press like any other
+    if (mouseHeld && key_roles::isHeader(this))
+        setFlag(ItemIsMovable, false);
+}
+
+void ResizableItem::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+{
+    const bool stillHeld = event->buttons() & Qt::LeftButton; // it is another button that went up
+    if (!mouseHeld || stillHeld)
+        return;
+    mouseHeld = false;
+    qCDebug(lcKeys) << "ResizableItem::mouseReleaseEvent" << event->scenePos();
+    pressedByMouse = false;
+    if (key_roles::isPower(this))
+        releasePower(event->pos());
+    else if (key_roles::isHeader(this))
+        releaseHeader();
+    else
+        releaseKey();
+    QGraphicsPixmapItem::mouseReleaseEvent(event);
+}
+
+void ResizableItem::releaseHeader()
+{
+    if (!dragStarted)
+        return;
+    endDrag();
+    static_cast<HeaderItem*>(this)->restorePos();
+    mainWnd->setBackgroundSwitches(isPowerOn());
+    mainWnd->headerController->setHeadersStatus(isPowerOn());
+}
+
+void ResizableItem::releasePower(QPointF pos)
+{
+    PowerItem* power = mainWnd->powerItem;
+    const bool onButton = PowerItem::isOnButton(pos);
+    const bool toggled = onButton && !dragStarted;
+    if (toggled)
+        power->setSwithOn(!power->isSwitchOn());
+    power->showSwitch(power->isSwitchOn());
+    if (toggled && powerGrabbed)
+        power->showHover();
+    else
+        powerGrabbed = false;
+    if (dragStarted) {
+        endDrag();
+        power->restorePos(); // where the drop has put it, or where it came from
+    }
+    const bool on = power->isSwitchOn();
+    mainWnd->setBackgroundSwitches(on);
+    mainWnd->headerController->setHeadersStatus(on);
+    power->setAllBlackBlue(on);
+    power->changeScaleByTonic();
+}
+
+bool ResizableItem::sceneEvent(QEvent* event)
+{
+    if (event->type() == QEvent::UngrabMouse && mouseHeld)
+        losePointer();
+    return QGraphicsPixmapItem::sceneEvent(event);
+}
+
+// The press will see no release: the window lost the focus, a dialog came up, or the item was hidden.
+void ResizableItem::losePointer()
+{
+    mouseHeld = false;
+    pressedByMouse = false;
+    if (auto* stage = qobject_cast<DiagramScene*>(scene()))
+        stage->abandonGesture();
+    if (key_roles::isPower(this)) {
+        powerGrabbed = false;
+        mainWnd->powerItem->showSwitch(isPowerOn());
+        if (dragStarted)
+            mainWnd->powerItem->restorePos();
+        endDrag();
+    } else if (key_roles::isHeader(this)) {
+        if (dragStarted)
+            static_cast<HeaderItem*>(this)->restorePos();
+        endDrag();
+    } else {
+        releaseKey();
+    }
 }

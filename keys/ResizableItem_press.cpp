@@ -17,11 +17,6 @@ constexpr int noteOn = 0x90;
 constexpr int noteOff = 0x80;
 constexpr int pointerVelocity = 75;
 
-bool isLearning()
-{
-    return mainWnd->learnTonic || mainWnd->learnScale;
-}
-
 bool isPowerOn()
 {
     return mainWnd->powerItem->isSwitchOn();
@@ -45,7 +40,7 @@ QString noteWord(const QGraphicsItem* key)
 
 void ResizableItem::sendOutMidi(int status, int noteOverride)
 {
-    if (isLearning())
+    if (mainWnd->isLearning())
         return;
     const int note = noteOverride != -1 ? noteOverride : key_roles::pitch(this);
     int velocity = key_roles::velocity(this);
@@ -66,7 +61,7 @@ void ResizableItem::pushKey()
     const int target = key_roles::target(this);
     KeySheet sheet = KeySheet::in;
     qCDebug(lcKeys) << "ResizableItem::pushKey :: mainPixIn" << target;
-    if (isLearning()) {
+    if (mainWnd->isLearning()) {
         sheet = KeySheet::learn;
         qCDebug(lcKeys) << "ResizableItem::pushKey :: learn";
         mainWnd->learnPending = false;
@@ -95,7 +90,7 @@ void ResizableItem::pushOut(KeySheet sheet)
 void ResizableItem::pushIn(KeySheet sheet, int target)
 {
     showCell(sheet, KeyCell::pressed, KeyShine::none);
-    if (isLearning()) {
+    if (mainWnd->isLearning()) {
         learnFromKey();
         return;
     }

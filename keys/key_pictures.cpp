@@ -107,6 +107,18 @@ QRect cellOf(KeyShape shape, KeyCell cell)
     return cell == KeyCell::idle ? cells.idle : cells.pressed;
 }
 
+QRegion outlineOf(KeyShape shape)
+{
+    const QRect cell(QPoint(), cellOf(shape, KeyCell::idle).size());
+    const QSize black = cellOf(KeyShape::black, KeyCell::idle).size();
+    const QRect left(0, 0, black.width() / 2, black.height());
+    const QRect right = left.translated(cell.width() - left.width(), 0);
+    const bool notchedLeft = shape == KeyShape::bAndE || shape == KeyShape::dGAndA;
+    const bool notchedRight =
+        shape == KeyShape::cAndF || shape == KeyShape::lowest || shape == KeyShape::dGAndA;
+    return QRegion(cell) - (notchedLeft ? left : QRect()) - (notchedRight ? right : QRect());
+}
+
 QString pathOf(KeySheet sheet)
 {
     static const std::array<QString, sheetCount> paths = {

@@ -2,6 +2,7 @@
 
 #include <QPixmap>
 #include <QRect>
+#include <QRegion>
 #include <QString>
 
 /// The five colourings of the key sheet.
@@ -24,6 +25,10 @@ namespace key_pictures {
 
 /// The cell of a shape on every sheet, in logical pixels; an empty rectangle for `none`.
 [[nodiscard]] QRect cellOf(KeyShape shape, KeyCell cell);
+
+/// What the hand can touch of a key, in logical pixels from its top left: its cell without the notches in
+/// which its black neighbours lie. Empty for `none`.
+[[nodiscard]] QRegion outlineOf(KeyShape shape);
 
 /// The resource path of a sheet.
 [[nodiscard]] QString pathOf(KeySheet sheet);

@@ -61,6 +61,11 @@ bool isHeader(const QGraphicsItem* item)
     return reads(item, ROLE_SIDE, QLatin1String("header"));
 }
 
+bool isPower(const QGraphicsItem* item)
+{
+    return reads(item, ROLE_SIDE, QLatin1String("power"));
+}
+
 void setPitch(QGraphicsItem* item, int pitch)
 {
     write(item, ROLE_PITCH, pitch);
@@ -191,6 +196,31 @@ void setHeaderSlot(QGraphicsItem* item, int pitch)
 int blackOut(const QGraphicsItem* item)
 {
     return read(item, ROLE_BLACK_OUT).toInt();
+}
+
+QString anchorName(const QGraphicsItem* anchor)
+{
+    return read(anchor, ROLE_TARGET).toString();
+}
+
+void setAnchorName(QGraphicsItem* anchor, const QString& name)
+{
+    write(anchor, ROLE_TARGET, name);
+}
+
+void markMainAnchor(QGraphicsItem* anchor)
+{
+    write(anchor, ROLE_SIDE, 59);
+}
+
+void markMainPicture(QGraphicsItem* picture)
+{
+    write(picture, ROLE_PITCH, QStringLiteral("0"));
+}
+
+bool bears(const QGraphicsItem* item, int role, const QString& word)
+{
+    return item && item->data(role).toString() == word;
 }
 
 } // namespace key_roles

@@ -6,18 +6,18 @@ class QGraphicsItem;
 
 /// The item data roles of the stage. Every other file goes through the accessors below.
 enum key_role {
-    ROLE_SIDE = 1,        ///< string: "in", "out", "power", "header", "tonic", "scale"
-    ROLE_PITCH = 2,       ///< int: MIDI note number, 21 to 108; the index 0 to 11 on a selector key
-    ROLE_NAME = 3,        ///< string: "A0" to "C8", "#" for every black key; the table name on a selector key
-    ROLE_STATE = 4,       ///< string: "on" or "off", selector keys
-    ROLE_SOUNDED_OUT = 7, ///< int: the out pitch that the last push of this in key sounded
-    ROLE_IN_SCALE = 8,    ///< string: "on" or "off", in keys
+    ROLE_SIDE = 1,  ///< string: "in", "out", "power", "header", "tonic", "scale"; int 59 on a main anchor
+    ROLE_PITCH = 2, ///< int: MIDI note number, 21 to 108; the index 0 to 11 on a selector key
+    ROLE_NAME = 3,  ///< string: "A0" to "C8", "#" for every black key; the table name on a selector key
+    ROLE_STATE = 4, ///< string: "on" or "off", selector keys
+    ROLE_SOUNDED_OUT = 7,  ///< int: the out pitch that the last push of this in key sounded
+    ROLE_IN_SCALE = 8,     ///< string: "on" or "off", in keys
     ROLE_HEADER_SLOT = 12, ///< int: MIDI note number of a header's black key
     ROLE_ACTIVITY = 44,    ///< string: "active" or "deactive", in keys; unset counts as active
     ROLE_BLACK_OUT = 77,   ///< int: read by findAndReleaseBlackOut() only, written by nobody
-    ROLE_TARGET = 99,      ///< int, or the string "-1", on in keys; "on" or "off" on out keys
-    ROLE_OUT_EDGE = 100,   ///< string: "pushed" or "released", out keys
-    ROLE_VELOCITY = 555    ///< int: velocity of the MIDI event being processed, 0 outside it
+    ROLE_TARGET = 99,    ///< int, or the string "-1", on in keys; "on" or "off" on out keys; an anchor's name
+    ROLE_OUT_EDGE = 100, ///< string: "pushed" or "released", out keys
+    ROLE_VELOCITY = 555  ///< int: velocity of the MIDI event being processed, 0 outside it
 };
 
 /// Typed doors to the item data. A null item reads as an item without data, and what is written to it is
@@ -31,6 +31,7 @@ void setSide(QGraphicsItem* item, const QString& side);
 [[nodiscard]] bool isIn(const QGraphicsItem* item);
 [[nodiscard]] bool isOut(const QGraphicsItem* item);
 [[nodiscard]] bool isHeader(const QGraphicsItem* item);
+[[nodiscard]] bool isPower(const QGraphicsItem* item);
 
 /// MIDI note number of a key, index of a selector key; 0 for an item that is no key.
 [[nodiscard]] int pitch(const QGraphicsItem* item);
@@ -79,5 +80,15 @@ void setVelocity(QGraphicsItem* item, int velocity);
 void setHeaderSlot(QGraphicsItem* item, int pitch);
 
 [[nodiscard]] int blackOut(const QGraphicsItem* item);
+
+/// "main", or the number of a numbered anchor as text.
+[[nodiscard]] QString anchorName(const QGraphicsItem* anchor);
+void setAnchorName(QGraphicsItem* anchor, const QString& name);
+/// The marks that the main anchor bears besides its name; read by nobody.
+void markMainAnchor(QGraphicsItem* anchor);
+void markMainPicture(QGraphicsItem* picture);
+
+/// True if the data under a role, whichever it is, reads as that word.
+[[nodiscard]] bool bears(const QGraphicsItem* item, int role, const QString& word);
 
 } // namespace key_roles

@@ -23,11 +23,6 @@ void HeaderFixture::openWindow()
 
 void HeaderFixture::closeWindow()
 {
-    if (anchors) {
-        power()->anchorsGroup = nullptr;
-        power()->mainAnchorIn = nullptr;
-        anchors.reset();
-    }
     window.reset();
 }
 
@@ -80,15 +75,9 @@ void HeaderFixture::emptyHeaders() const
     QVERIFY(library().customScales().isEmpty());
 }
 
-void HeaderFixture::addAnchors(qreal x)
+void HeaderFixture::placeAnchors(qreal x) const
 {
-    anchors = std::make_unique<AnchorsGroup>();
-    auto* main = new QGraphicsItemGroup;
-    anchors->addToGroup(main);
-    scene()->addItem(anchors.get());
-    anchors->setPos(x, 7);
-    power()->anchorsGroup = anchors.get();
-    power()->mainAnchorIn = main;
+    anchors()->setPos(x, 7); // a y of its own: nobody may change it
 }
 
 void HeaderFixture::show() const

@@ -42,6 +42,7 @@ protected:
     int active() const { return key_roles::pitch(presets().activeHeader); }
     PowerItem* power() const { return window->powerItem; }
     DiagramScene* scene() const;
+    AnchorsGroup* anchors() const { return power()->anchorsGroup; }
     DatabaseLibrary& library() const { return window->library; }
     TonicKeyController& tonic() const { return *static_cast<TonicKeyController*>(window->tonicController); }
     ScaleKeyController& scale() const { return *static_cast<ScaleKeyController*>(window->scaleController); }
@@ -60,7 +61,7 @@ protected:
     void setRecord(int key, const header_data& data) const;
     /// Takes the factory's presets away, and the numbers that two of them carry.
     void emptyHeaders() const;
-    void addAnchors(qreal x);
+    void placeAnchors(qreal x) const;
 
     // The pointer
     void show() const;
@@ -72,7 +73,6 @@ protected:
 
     std::unique_ptr<MainWnd> window;
     RecordingPort* port = nullptr; // owned by the window
-    std::unique_ptr<AnchorsGroup> anchors;
     int seen = 0; // menus and questions
 
 private:

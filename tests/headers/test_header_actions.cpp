@@ -59,7 +59,7 @@ void TestHeaderActions::pasteIntoAnotherHeaderLeavesTheSelectors()
 void TestHeaderActions::pasteIntoTheActiveHeaderDrivesTheSelectors()
 {
     window->setPower(true);
-    addAnchors(34);
+    placeAnchors(34);
     tonic().setSwitchOff(false);
     scale().setSwitchOff(false);
     presets().copyData = fullRecord();
@@ -68,7 +68,7 @@ void TestHeaderActions::pasteIntoTheActiveHeaderDrivesTheSelectors()
     QVERIFY(tonic().switchOn && scale().switchOn);
     QCOMPARE(tonic().tonicModifier(), QStringLiteral("E"));
     QCOMPARE(scale().scaleModifier(), lydian);
-    QCOMPARE(anchors->x(), 34.0); // the pitch position is copied, not applied
+    QCOMPARE(anchors()->x(), 34.0); // the pitch position is copied, not applied
     header_data wanted = fullRecord();
     wanted.nameScenic1 = QStringLiteral("MAJOR");
     wanted.nameScenic2 = QStringLiteral("Lydian");
@@ -251,18 +251,18 @@ void TestHeaderActions::resetOfTheActiveHeader()
 
 void TestHeaderActions::resetBringsTheAnchorsHomeWithThePowerOn()
 {
-    addAnchors(-34);
+    placeAnchors(-34);
     openMenuOn(firstActive);
     presets().resetHdr();
-    QCOMPARE(anchors->pos(), QPointF(-34, 7)); // the power is off
+    QCOMPARE(anchors()->pos(), QPointF(-34, 7)); // the power is off
     window->setPower(true);
     QCOMPARE(target(60), 64);
     openMenuOn(25);
     presets().resetHdr();
-    QCOMPARE(anchors->pos(), QPointF(-34, 7)); // not the active header
+    QCOMPARE(anchors()->pos(), QPointF(-34, 7)); // not the active header
     openMenuOn(firstActive);
     presets().resetHdr();
-    QCOMPARE(anchors->pos(), QPointF(0, 7));
+    QCOMPARE(anchors()->pos(), QPointF(0, 7));
     QCOMPARE(target(60), 60);
 }
 

@@ -211,7 +211,7 @@ void TestHeaderQuestions::resetAllLoadsTheActiveHeader()
     const header_data row = factoryRow(PresetModel::indexOf(key));
     window->setPower(true);
     movePower(61);
-    addAnchors(34.5);
+    placeAnchors(34.5);
     power()->mainAnchorIn->setOpacity(0.01);
     recall(key, false);
     setTonic("D");
@@ -225,7 +225,7 @@ void TestHeaderQuestions::resetAllLoadsTheActiveHeader()
     QCOMPARE(scale().scaleModifier(), row.scaleOn ? row.scaleData : wholeTone);
     QCOMPARE(target(60), row.tonicOn ? 63 : 62);
     QCOMPARE(library().currentScale(), scale().scaleModifier());
-    QCOMPARE(anchors->pos(), QPointF(0, 7));
+    QCOMPARE(anchors()->pos(), QPointF(0, 7));
     QCOMPARE(power()->mainAnchorIn->opacity(), 1.0); // refreshed
 }
 
@@ -233,7 +233,7 @@ void TestHeaderQuestions::resetAllWithoutAnActiveHeader()
 {
     window->setPower(true);
     movePower(61);
-    addAnchors(34);
+    placeAnchors(34);
     setTonic("D");
     setScale(wholeTone);
     header(firstActive)->setStatus(header_deactive);
@@ -244,7 +244,7 @@ void TestHeaderQuestions::resetAllWithoutAnActiveHeader()
     QCOMPARE(asText(record(lowest)), asText(factoryRow(0)));
     QCOMPARE(tonic().tonicModifier(), QStringLiteral("D"));
     QCOMPARE(scale().scaleModifier(), wholeTone);
-    QCOMPARE(anchors->x(), 0.0);
+    QCOMPARE(anchors()->x(), 0.0);
 }
 
 void TestHeaderQuestions::resetAllKeepsThePower_data()
@@ -259,7 +259,7 @@ void TestHeaderQuestions::resetAllKeepsThePower()
     QFETCH(bool, powered);
     window->setPower(powered);
     movePower(61); // shows the button as on
-    addAnchors(-34);
+    placeAnchors(-34);
     answer(QMessageBox::AcceptRole);
     presets().resetAll();
     QCOMPARE(power()->isSwitchOn(), powered);

@@ -88,8 +88,8 @@ void paintEngravings(QPainter& p)
                     alignment, 2);
         brush::text(p, area, QLatin1String(words), 9, true, palette::engraving, alignment, 2);
     };
-    caption(QRectF(28, 5, 200, 13), "OUTPUT", Qt::AlignLeft | Qt::AlignVCenter);
-    caption(QRectF(724, 5, 204, 13), "SORVANE", Qt::AlignRight | Qt::AlignVCenter);
+    caption(QRectF(28, 149, 200, 12), "OUTPUT", Qt::AlignLeft | Qt::AlignVCenter);
+    caption(QRectF(724, 149, 204, 12), "SORVANE", Qt::AlignRight | Qt::AlignVCenter);
     caption(QRectF(28, 284, 200, 12), "INPUT", Qt::AlignLeft | Qt::AlignVCenter);
 }
 

@@ -23,9 +23,8 @@ void paintBar(QPainter& p, const QSizeF& size, const QColor& tint)
 
 void paintInputBar(QPainter& p)
 {
-    paintBar(p, QSizeF(907, 33), palette::blueLight);
-    p.fillRect(QRectF(1, 15, 905, 1), withAlpha(Qt::black, 60)); // degrees above, anchors below
-    p.fillRect(QRectF(1, 16, 905, 1), withAlpha(Qt::white, 90));
+    paintBar(p, QSizeF(907, 33), palette::blueLight); // degrees above, the anchors' rail below
+    brush::recess(p, QRectF(2, 17, 903, 14), 2, palette::well, mix(palette::well, palette::blueDark, 0.35));
 }
 
 void paintOutputBar(QPainter& p)

@@ -27,24 +27,46 @@ const Glyph glyphs[] = {
     {57, {".####.", "#....#", "#....#", "#....#", "#....#", "#....#", "#....#", ".####."}},
 };
 
-void paintDigits(QPainter& p, const QColor& color)
+// For the sheets that show negative numbers: sign and digit touch, so the four has no stroke beside the sign.
+const Glyph signedGlyphs[] = {
+    {0, {"...", "...", "...", "###", "...", "...", "...", "..."}},
+    {19, {"...#.", "..##.", "..##.", ".#.#.", ".#.#.", "#####", "...#.", "...#."}},
+};
+
+const Glyph& shapeOf(const Glyph& plain, bool isSigned)
+{
+    for (const Glyph& glyph : signedGlyphs)
+        if (isSigned && glyph.column == plain.column)
+            return glyph;
+    return plain;
+}
+
+void paintGlyph(QPainter& p, const Glyph& glyph, const QColor& color)
+{
+    for (int y = 0; y < 8; ++y)
+        for (int x = 0; glyph.rows[static_cast<std::size_t>(y)][x]; ++x)
+            if (glyph.rows[static_cast<std::size_t>(y)][x] == '#')
+                p.fillRect(glyph.column + x, y, 1, 1, color);
+}
+
+void paintDigits(QPainter& p, const QColor& color, bool isSigned)
 {
     p.setRenderHint(QPainter::Antialiasing, false);
     for (const Glyph& glyph : glyphs)
-        for (int y = 0; y < 8; ++y)
-            for (int x = 0; glyph.rows[static_cast<std::size_t>(y)][x]; ++x)
-                if (glyph.rows[static_cast<std::size_t>(y)][x] == '#')
-                    p.fillRect(glyph.column + x, y, 1, 1, color);
+        paintGlyph(p, shapeOf(glyph, isSigned), color);
 }
 
 } // namespace
 
 void addDigitSheets(std::vector<Picture>& table)
 {
-    // On the input anchors, the output anchors, the selector squares and the bars.
-    const QColor colors[] = {Qt::white, palette::amberDark, palette::blueDark, palette::ink};
-    for (int sheet = 0; sheet < 4; ++sheet)
-        table.push_back({QStringLiteral("Numb%1.png").arg(sheet),
-                         {63, 8},
-                         [color = colors[sheet]](QPainter& p) { paintDigits(p, color); }});
+    const auto add = [&table](int sheet, const QColor& color, bool isSigned) {
+        table.push_back({QStringLiteral("Numb%1.png").arg(sheet), {63, 8}, [=](QPainter& p) {
+                             paintDigits(p, color, isSigned);
+                         }});
+    };
+    add(0, Qt::white, true);           // on the input anchors
+    add(1, palette::amberLight, true); // on the output anchors
+    add(2, palette::blueDark, false);  // on the selector squares
+    add(3, palette::well, false);      // on the bars
 }

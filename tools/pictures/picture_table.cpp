@@ -9,6 +9,7 @@ const std::vector<Picture>& allPictures()
         addHeaderPictures(pictures);
         addBackgrounds(pictures);
         addBars(pictures);
+        addAnchorPictures(pictures);
         addSelectorPictures(pictures);
         addDisplayPictures(pictures);
         addDigitSheets(pictures);

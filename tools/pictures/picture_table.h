@@ -28,6 +28,7 @@ void addPowerPictures(std::vector<Picture>& table);
 void addHeaderPictures(std::vector<Picture>& table);
 void addBackgrounds(std::vector<Picture>& table);
 void addBars(std::vector<Picture>& table);
+void addAnchorPictures(std::vector<Picture>& table);
 void addSelectorPictures(std::vector<Picture>& table);
 void addDisplayPictures(std::vector<Picture>& table);
 void addDigitSheets(std::vector<Picture>& table);

@@ -1,0 +1,123 @@
+// The anchors: numbered marks on the bars along both keyboards.
+
+#include "app/MainWnd.h"
+
+#include "headers/AnchorItem.h"
+#include "headers/AnchorsGroup.h"
+#include "headers/DiagramScene.h"
+#include "keys/PowerItem.h"
+#include "keys/key_roles.h"
+#include "keys/pictures.h"
+
+#include <QCursor>
+#include <QGraphicsPixmapItem>
+
+namespace {
+
+constexpr int anchorsEachSide = 4;
+const QPointF inPicture(388, 110), outPicture(12, -15);
+const QRect foot(0, 36, 22, 55); // laid over the number once more: it stands behind the anchor's glass
+const QPointF footOffset(0, 35);
+
+QPointF inDigitOffset(int n)
+{
+    return {n < 0 ? 7.0 : 9.0, 55};
+}
+
+QPointF outDigitOffset(int n)
+{
+    if (n == 0)
+        return {9, 7};
+    return {n > 0 ? 10.0 : 8.0, 7};
+}
+
+QString nameOf(int n)
+{
+    return n == 0 ? QStringLiteral("main") : QString::number(n);
+}
+
+QGraphicsPixmapItem* addPicture(QGraphicsItemGroup& anchor, const QPixmap& picture, QPointF position)
+{
+    auto* item = new QGraphicsPixmapItem(picture);
+    item->setShapeMode(QGraphicsPixmapItem::BoundingRectShape); // the same at any device pixel ratio
+    item->setPos(position);
+    anchor.addToGroup(item);
+    return item;
+}
+
+void name(QGraphicsItemGroup* anchor, int n)
+{
+    key_roles::setAnchorName(anchor, nameOf(n));
+    if (n == 0)
+        key_roles::markMainAnchor(anchor);
+}
+
+AnchorItem* makeInAnchor(int n, const QPixmap& digit)
+{
+    auto* anchor = new AnchorItem;
+    const QPixmap picture = pictures::load(QStringLiteral(":/Resources/INPUTAnchor2.png"));
+    auto* body = addPicture(*anchor, picture, inPicture);
+    addPicture(*anchor, digit, inPicture + inDigitOffset(n));
+    addPicture(*anchor, pictures::crop(picture, foot), inPicture + footOffset);
+    const QCursor cursor(pictures::load(QStringLiteral(":/Resources/Cursor/cursorHr.png")), -1, -1);
+    const auto parts = anchor->childItems();
+    for (QGraphicsItem* part : parts)
+        part->setCursor(cursor);
+    name(anchor, n);
+    if (n == 0)
+        key_roles::markMainPicture(body);
+    return anchor;
+}
+
+QGraphicsItemGroup* makeOutAnchor(int n, const QPixmap& digit)
+{
+    auto* anchor = new QGraphicsItemGroup;
+    addPicture(*anchor, pictures::load(QStringLiteral(":/Resources/OUTPUTAnchor2.png")), outPicture);
+    addPicture(*anchor, digit, outPicture + outDigitOffset(n));
+    anchor->setAcceptedMouseButtons(Qt::NoButton);
+    const auto parts = anchor->childItems();
+    for (QGraphicsItem* part : parts)
+        part->setAcceptedMouseButtons(Qt::NoButton);
+    name(anchor, n);
+    anchor->setVisible(n == 0);
+    return anchor;
+}
+
+} // namespace
+
+// All start at one place; the first recomputation of the keys spreads them.
+void MainWnd::createAnchorIN()
+{
+    const auto make = [this](int n) { return makeInAnchor(n, getDigitalPix(digit_anchor_in, n)); };
+    powerItem->mainAnchorIn = make(0);
+    for (int n = 1; n <= anchorsEachSide; ++n) {
+        powerItem->anchorsInRight.append(make(n));
+        powerItem->anchorsInLeft.append(make(-n));
+    }
+    auto* scene = static_cast<DiagramScene*>(ui.inKeyboardGraphicsView->scene());
+    auto* group = new AnchorsGroup;
+    group->powerItem = powerItem;
+    group->scene = scene;
+    for (QGraphicsItemGroup* anchor : qAsConst(powerItem->anchorsInLeft))
+        group->addToGroup(anchor);
+    group->addToGroup(powerItem->mainAnchorIn);
+    for (QGraphicsItemGroup* anchor : qAsConst(powerItem->anchorsInRight))
+        group->addToGroup(anchor);
+    scene->addItem(group);
+    group->setFlags(QGraphicsItem::ItemIsMovable);
+    powerItem->anchorsGroup = group;
+}
+
+void MainWnd::createAnchorOUT()
+{
+    const auto make = [this](int n) {
+        QGraphicsItemGroup* anchor = makeOutAnchor(n, getDigitalPix(digit_anchor_out, n));
+        ui.outKeyboardGraphicsView->scene()->addItem(anchor);
+        return anchor;
+    };
+    powerItem->mainAnchorOut = make(0);
+    for (int n = 1; n <= anchorsEachSide; ++n) {
+        powerItem->anchorsOutRight.append(make(n));
+        powerItem->anchorsOutLeft.append(make(-n));
+    }
+}
