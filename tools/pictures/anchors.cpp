@@ -87,9 +87,10 @@ void paintPlate(QPainter& p)
     brush::fillRound(p, face, 1.5, vertical(face, palette::gap, palette::well));
 }
 
+// The needle ends above the numbers on the bar: the leading note's stands on the line that it points to.
 void paintOutputAnchor(QPainter& p)
 {
-    paintNeedle(p, 18, 18, palette::amber, palette::amberDark);
+    paintNeedle(p, 18, 5, palette::amber, palette::amberDark);
     paintPlate(p);
 }
 

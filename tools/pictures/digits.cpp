@@ -4,6 +4,7 @@
 #include "tools/pictures/picture_table.h"
 
 #include <array>
+#include <vector>
 
 namespace {
 
@@ -27,16 +28,24 @@ const Glyph glyphs[] = {
     {57, {".####.", "#....#", "#....#", "#....#", "#....#", "#....#", "#....#", ".####."}},
 };
 
+using Glyphs = std::vector<Glyph>;
+
 // For the sheets that show negative numbers: sign and digit touch, so the four has no stroke beside the sign.
-const Glyph signedGlyphs[] = {
+const Glyphs signedGlyphs = {
     {0, {"...", "...", "...", "###", "...", "...", "...", "..."}},
     {19, {"...#.", "..##.", "..##.", ".#.#.", ".#.#.", "#####", "...#.", "...#."}},
 };
 
-const Glyph& shapeOf(const Glyph& plain, bool isSigned)
+// For the bars, where the twelve numbers of a chromatic scale stand close: the one has no foot to run into
+// its neighbours.
+const Glyphs narrowGlyphs = {
+    {4, {".#.", "##.", ".#.", ".#.", ".#.", ".#.", ".#.", ".#."}},
+};
+
+const Glyph& shapeOf(const Glyph& plain, const Glyphs& instead)
 {
-    for (const Glyph& glyph : signedGlyphs)
-        if (isSigned && glyph.column == plain.column)
+    for (const Glyph& glyph : instead)
+        if (glyph.column == plain.column)
             return glyph;
     return plain;
 }
@@ -49,24 +58,24 @@ void paintGlyph(QPainter& p, const Glyph& glyph, const QColor& color)
                 p.fillRect(glyph.column + x, y, 1, 1, color);
 }
 
-void paintDigits(QPainter& p, const QColor& color, bool isSigned)
+void paintDigits(QPainter& p, const QColor& color, const Glyphs& instead)
 {
     p.setRenderHint(QPainter::Antialiasing, false);
     for (const Glyph& glyph : glyphs)
-        paintGlyph(p, shapeOf(glyph, isSigned), color);
+        paintGlyph(p, shapeOf(glyph, instead), color);
 }
 
 } // namespace
 
 void addDigitSheets(std::vector<Picture>& table)
 {
-    const auto add = [&table](int sheet, const QColor& color, bool isSigned) {
+    const auto add = [&table](int sheet, const QColor& color, const Glyphs& instead) {
         table.push_back({QStringLiteral("Numb%1.png").arg(sheet), {63, 8}, [=](QPainter& p) {
-                             paintDigits(p, color, isSigned);
+                             paintDigits(p, color, instead);
                          }});
     };
-    add(0, Qt::white, true);           // on the input anchors
-    add(1, palette::amberLight, true); // on the output anchors
-    add(2, palette::blueDark, false);  // on the selector squares
-    add(3, palette::well, false);      // on the bars
+    add(0, Qt::white, signedGlyphs);           // on the input anchors
+    add(1, palette::amberLight, signedGlyphs); // on the output anchors
+    add(2, palette::blueDark, {});             // on the selector squares
+    add(3, palette::well, narrowGlyphs);       // on the bars
 }
