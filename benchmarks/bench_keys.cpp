@@ -3,6 +3,7 @@
 #include "RecordingPort.h"
 #include "app/MainWnd.h"
 #include "app/MidiService.h"
+#include "headers/AnchorsGroup.h"
 #include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
 #include "keys/ScaleKeyController.h"
@@ -13,6 +14,7 @@
 
 #include <QApplication>
 #include <QLoggingCategory>
+#include <QMouseEvent>
 
 namespace {
 
@@ -77,6 +79,34 @@ void remap(benchmark::State& state)
     }
 }
 
+/// One step of an anchor drag, one white key to the left or right, by the pointer's own events: remap,
+/// numbers, repaint requested. The painting itself is not counted.
+void anchorStep(benchmark::State& state)
+{
+    QWidget* view = mainWnd->ui.inKeyboardGraphicsView->viewport();
+    const QPoint home = mainWnd->ui.inKeyboardGraphicsView->mapFromScene(399, 168);
+    const auto send = [view](QEvent::Type type, QPoint pos, Qt::MouseButton button,
+                             Qt::MouseButtons buttons) {
+        QMouseEvent event(type, pos, view->mapToGlobal(pos), button, buttons, Qt::NoModifier);
+        QCoreApplication::sendEvent(view, &event);
+    };
+    send(QEvent::MouseButtonPress, home, Qt::LeftButton, Qt::LeftButton);
+    int step = 0;
+    for (auto _ : state) {
+        step = (step + 1) % 20;
+        const int keys = step < 10 ? step : 20 - step; // there and back
+        send(QEvent::MouseMove, home + QPoint(pitch_mapping::whiteKeyWidth * keys, 0), Qt::NoButton,
+             Qt::LeftButton);
+        state.PauseTiming();
+        if (qRound(mainWnd->powerItem->anchorsGroup->x()) != pitch_mapping::whiteKeyWidth * keys)
+            state.SkipWithError("the anchors did not follow");
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+    }
+    send(QEvent::MouseMove, home, Qt::NoButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, home, Qt::LeftButton, Qt::NoButton);
+}
+
 void passThrough(benchmark::State& state)
 {
     RecordingPort& port = *static_cast<RecordingPort*>(mainWnd->outPorts.first());
@@ -93,6 +123,7 @@ BENCHMARK(notePair);
 BENCHMARK(notePairWithoutPresets);
 BENCHMARK(recall)->Iterations(500);
 BENCHMARK(remap);
+BENCHMARK(anchorStep)->Iterations(500);
 BENCHMARK(passThrough);
 
 } // namespace

@@ -12,7 +12,6 @@
 namespace {
 
 constexpr qreal dimmed = 0.01;
-constexpr qreal windowEdge = 178; // scene y of the bar's end
 
 } // namespace
 
@@ -79,9 +78,8 @@ int AnchorsGroup::placeFor(QPointF pointer) const
 {
     const int x = static_cast<int>(pos().x());
     int place = anchor_snap::nearest(x > 0 ? gridRight : gridLeft, x);
-    // The hand may wander off the bar; the anchor that it holds stays in it.
-    const QPointF onBar(pointer.x(), qBound(anchor_snap::barTop, pointer.y(), windowEdge));
-    const auto items = scene->items(onBar, Qt::IntersectsItemShape, Qt::DescendingOrder);
+    // The base has moved the group both ways, so the anchor in the hand is here, off the bar or on it.
+    const auto items = scene->items(pointer, Qt::IntersectsItemShape, Qt::DescendingOrder);
     for (const QGraphicsItem* item : items)
         if (isAnchor(item))
             place = anchor_snap::stop(item->scenePos().x(), item->x()).value_or(place);
