@@ -102,6 +102,7 @@ void MainWnd::createPowerItem()
     key_roles::setPitch(powerItem, powerPitch);
     key_roles::setName(powerItem, QStringLiteral("power"));
     powerItem->setAcceptHoverEvents(true);
+    powerItem->setToolTip(tr("Power: click the button, or press Space. Drag its sleeve to another flag."));
 }
 
 void MainWnd::connectSignals()

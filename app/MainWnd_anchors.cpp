@@ -52,7 +52,7 @@ void name(QGraphicsItemGroup* anchor, int n)
         key_roles::markMainAnchor(anchor);
 }
 
-AnchorItem* makeInAnchor(int n, const QPixmap& digit)
+AnchorItem* makeInAnchor(int n, const QPixmap& digit, const QString& toolTip)
 {
     auto* anchor = new AnchorItem;
     const QPixmap picture = pictures::load(QStringLiteral(":/Resources/INPUTAnchor2.png"));
@@ -61,8 +61,10 @@ AnchorItem* makeInAnchor(int n, const QPixmap& digit)
     addPicture(*anchor, pictures::crop(picture, foot), inPicture + footOffset);
     const QCursor cursor(pictures::load(QStringLiteral(":/Resources/Cursor/cursorHr.png")), -1, -1);
     const auto parts = anchor->childItems();
-    for (QGraphicsItem* part : parts)
+    for (QGraphicsItem* part : parts) {
         part->setCursor(cursor);
+        part->setToolTip(toolTip);
+    }
     name(anchor, n);
     if (n == 0)
         key_roles::markMainPicture(body);
@@ -88,7 +90,9 @@ QGraphicsItemGroup* makeOutAnchor(int n, const QPixmap& digit)
 // All start at one place; the first recomputation of the keys spreads them.
 void MainWnd::createAnchorIN()
 {
-    const auto make = [this](int n) { return makeInAnchor(n, getDigitalPix(digit_anchor_in, n)); };
+    const QString toolTip = tr("Drag to slide the scale along the white keys. 0 marks the tonic, the others "
+                               "its octaves.");
+    const auto make = [&](int n) { return makeInAnchor(n, getDigitalPix(digit_anchor_in, n), toolTip); };
     powerItem->mainAnchorIn = make(0);
     for (int n = 1; n <= anchorsEachSide; ++n) {
         powerItem->anchorsInRight.append(make(n));

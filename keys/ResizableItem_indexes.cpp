@@ -24,6 +24,7 @@ constexpr int anchorsEachSide = 4;
 constexpr int outAnchorMiddle = 23; // x of an out anchor's tip, as created
 constexpr int oneDigit = 5;         // pixels, of most of them
 constexpr int inMarkTop = 3, outMarkTop = 9;
+constexpr qreal awake = 1, asleep = 0.45; // of the anchors, with the power on and off
 
 QString nameOfAnchor(int n)
 {
@@ -79,6 +80,8 @@ void ResizableItem::redrawAnchorAxis(int tonic)
 // An anchor stands on the left edge of the white key that plays the tonic that many octaves up.
 void ResizableItem::placeInAnchors(int count)
 {
+    if (anchorsGroup)
+        anchorsGroup->setOpacity(mainWnd->powerItem->isSwitchOn() ? awake : asleep);
     for (int n = -anchorsEachSide; anchorsGroup && n <= anchorsEachSide; ++n)
         if (QGraphicsItem* anchor = anchorsGroup->findAnchorByName(nameOfAnchor(n)))
             anchor->setX(n * count * whiteKeyWidth);
@@ -95,6 +98,7 @@ void ResizableItem::placeOutAnchors(int tonic)
         const ResizableItem* key = onKeyboard ? keys[indexOf(pitch)] : nullptr;
         if (key)
             anchor->setX(key->x() - outAnchorMiddle);
+        anchor->setOpacity(power ? awake : asleep);
         anchor->setVisible(key && (power || n == 0));
     };
     if (mainAnchorOut)
