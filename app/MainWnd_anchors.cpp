@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr int anchorsEachSide = 4;
 const QPointF inPicture(388, 110), outPicture(12, -15);
 const QRect foot(0, 36, 22, 55); // laid over the number once more: it stands behind the anchor's glass
 const QPointF footOffset(0, 35);
@@ -31,11 +30,6 @@ QPointF outDigitOffset(int n)
     return {n > 0 ? 10.0 : 8.0, 7};
 }
 
-QString nameOf(int n)
-{
-    return n == 0 ? QStringLiteral("main") : QString::number(n);
-}
-
 QGraphicsPixmapItem* addPicture(QGraphicsItemGroup& anchor, const QPixmap& picture, QPointF position)
 {
     auto* item = new QGraphicsPixmapItem(picture);
@@ -47,7 +41,7 @@ QGraphicsPixmapItem* addPicture(QGraphicsItemGroup& anchor, const QPixmap& pictu
 
 void name(QGraphicsItemGroup* anchor, int n)
 {
-    key_roles::setAnchorName(anchor, nameOf(n));
+    key_roles::setAnchorName(anchor, AnchorItem::nameOf(n));
     if (n == 0)
         key_roles::markMainAnchor(anchor);
 }
@@ -94,7 +88,7 @@ void MainWnd::createAnchorIN()
                                "its octaves.");
     const auto make = [&](int n) { return makeInAnchor(n, getDigitalPix(digit_anchor_in, n), toolTip); };
     powerItem->mainAnchorIn = make(0);
-    for (int n = 1; n <= anchorsEachSide; ++n) {
+    for (int n = 1; n <= AnchorItem::eachSide; ++n) {
         powerItem->anchorsInRight.append(make(n));
         powerItem->anchorsInLeft.append(make(-n));
     }
@@ -120,7 +114,7 @@ void MainWnd::createAnchorOUT()
         return anchor;
     };
     powerItem->mainAnchorOut = make(0);
-    for (int n = 1; n <= anchorsEachSide; ++n) {
+    for (int n = 1; n <= AnchorItem::eachSide; ++n) {
         powerItem->anchorsOutRight.append(make(n));
         powerItem->anchorsOutLeft.append(make(-n));
     }

@@ -19,6 +19,11 @@ AnchorItem::AnchorItem()
     setAcceptedMouseButtons(Qt::LeftButton);
 }
 
+QString AnchorItem::nameOf(int number)
+{
+    return number == 0 ? QStringLiteral("main") : QString::number(number);
+}
+
 void AnchorItem::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
     qCDebug(lcHeaders) << "AnchorItem::mousePressEvent()";

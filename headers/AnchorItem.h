@@ -7,7 +7,12 @@
 class AnchorItem : public QGraphicsItemGroup
 {
 public:
+    static constexpr int eachSide = 4; ///< anchors are numbered from -4 to 4
+
     AnchorItem();
+
+    /// "main" for 0, else the number as text.
+    [[nodiscard]] static QString nameOf(int number);
 
     bool isPressed = false;
 

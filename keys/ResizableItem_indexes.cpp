@@ -3,6 +3,7 @@
 #include "keys/ResizableItem.h"
 
 #include "app/MainWnd.h"
+#include "headers/AnchorItem.h"
 #include "headers/AnchorsGroup.h"
 #include "keys/PowerItem.h"
 #include "keys/ScaleKeyController.h"
@@ -20,16 +21,10 @@ using degree_marks::Marks;
 
 namespace {
 
-constexpr int anchorsEachSide = 4;
 constexpr int outAnchorMiddle = 23; // x of an out anchor's tip, as created
 constexpr int oneDigit = 5;         // pixels, of most of them
 constexpr int inMarkTop = 3, outMarkTop = 9;
 constexpr qreal awake = 1, asleep = 0.45; // of the anchors, with the power on and off
-
-QString nameOfAnchor(int n)
-{
-    return n == 0 ? QStringLiteral("main") : QString::number(n);
-}
 
 int widthOf(const QPixmap& picture)
 {
@@ -82,8 +77,8 @@ void ResizableItem::placeInAnchors(int count)
 {
     if (anchorsGroup)
         anchorsGroup->setOpacity(mainWnd->powerItem->isSwitchOn() ? awake : asleep);
-    for (int n = -anchorsEachSide; anchorsGroup && n <= anchorsEachSide; ++n)
-        if (QGraphicsItem* anchor = anchorsGroup->findAnchorByName(nameOfAnchor(n)))
+    for (int n = -AnchorItem::eachSide; anchorsGroup && n <= AnchorItem::eachSide; ++n)
+        if (QGraphicsItem* anchor = anchorsGroup->findAnchorByName(AnchorItem::nameOf(n)))
             anchor->setX(n * count * whiteKeyWidth);
 }
 
