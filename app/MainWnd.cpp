@@ -80,7 +80,11 @@ MainWnd::MainWnd() : newWindowShortcut(QKeySequence(QStringLiteral("Ctrl+N")), t
     scanMIDIPorts();
 }
 
-MainWnd::~MainWnd() = default;
+// A key that the pointer holds must not sound on, and its end reads what the members hold.
+MainWnd::~MainWnd()
+{
+    endGestures();
+}
 
 void MainWnd::setUpWindow()
 {
