@@ -127,6 +127,11 @@ void MainWnd::installFilters()
     QCoreApplication::instance()->installEventFilter(this);
 }
 
+bool MainWnd::isPowerOn() const
+{
+    return powerItem->isSwitchOn();
+}
+
 void MainWnd::setPower(bool on)
 {
     powerItem->showSwitch(on);

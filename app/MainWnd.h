@@ -48,6 +48,7 @@ public:
     /// Asks before something is lost. True if the user pressed the button of that text; the other is
     /// "Cancel".
     [[nodiscard]] bool confirmAlert(const QString& text, const QString& accept);
+    [[nodiscard]] bool isPowerOn() const;
     /// Keys select instead of sounding.
     [[nodiscard]] bool isLearning() const { return learnTonic || learnScale; }
     void createFloatingSwitches() {} ///< empty: there are no floating switches

@@ -51,14 +51,14 @@ AnchorItem* makeInAnchor(int n, const QPixmap& digit, const QString& toolTip)
     auto* anchor = new AnchorItem;
     const QPixmap picture = pictures::load(QStringLiteral(":/Resources/INPUTAnchor2.png"));
     auto* body = addPicture(*anchor, picture, inPicture);
-    addPicture(*anchor, digit, inPicture + inDigitOffset(n));
-    addPicture(*anchor, pictures::crop(picture, foot), inPicture + footOffset);
+    auto* number = addPicture(*anchor, digit, inPicture + inDigitOffset(n));
+    auto* grip = addPicture(*anchor, pictures::crop(picture, foot), inPicture + footOffset);
+    for (QGraphicsItem* part : {number, grip}) // the rest stands over keys, which get the presses there
+        part->setToolTip(toolTip);
     const QCursor cursor(pictures::load(QStringLiteral(":/Resources/Cursor/cursorHr.png")), -1, -1);
     const auto parts = anchor->childItems();
-    for (QGraphicsItem* part : parts) {
+    for (QGraphicsItem* part : parts)
         part->setCursor(cursor);
-        part->setToolTip(toolTip);
-    }
     name(anchor, n);
     if (n == 0)
         key_roles::markMainPicture(body);

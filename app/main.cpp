@@ -75,6 +75,7 @@ int runStage(CommandLine& wanted, int argc, char** argv)
     mainWnd->ui.versionLabel->setText(versionLine());
     start::setSelectors(wanted, *mainWnd);
     QApplication::exec();
+    mainWnd->endGestures(); // a key that the pointer holds must not sound on
     start::stopMidiInput(*mainWnd);
     return 0;
 }

@@ -6,8 +6,11 @@
 #include "headers/anchor_snap.h"
 #include "keys/PowerItem.h"
 #include "keys/key_roles.h"
+#include "keys/pitch_mapping.h"
 
 #include <QGraphicsSceneMouseEvent>
+
+#include <algorithm>
 
 namespace {
 

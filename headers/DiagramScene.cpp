@@ -23,8 +23,10 @@ DiagramScene::DiagramScene(PowerItem* power, QWidget* widget)
 {
 }
 
-void DiagramScene::clearItems()
+void DiagramScene::endGesture()
 {
+    leftDown = false;
+    anchorDrag = false;
     lastItem = nullptr;
     dropTarget = nullptr;
     currentItem = nullptr;
@@ -34,9 +36,8 @@ void DiagramScene::beginGesture(const QGraphicsSceneMouseEvent& event)
 {
     if (event.button() != Qt::LeftButton)
         return;
+    endGesture(); // whatever the last one left
     leftDown = true;
-    anchorDrag = false;
-    clearItems();
 }
 
 void DiagramScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
@@ -55,17 +56,19 @@ void DiagramScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
 void DiagramScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 {
     // Another button may come and go while the left one holds a key or an item.
-    if (!(event->buttons() & Qt::LeftButton)) {
+    const bool ended = !(event->buttons() & Qt::LeftButton);
+    if (ended) {
         const bool learning = mainWnd->isLearning();
         if (lastItem && (learning || isKey(currentItem)))
             lastItem->releaseKey();
         if (leftDown && !learning)
             settleDrop();
-        leftDown = false;
-        anchorDrag = false;
-        clearItems();
+        endGesture();
     }
     QGraphicsScene::mouseReleaseEvent(event);
+    // As long as any button is down the item would keep the mouse, and the next press would be its own.
+    if (ended)
+        freePointer();
 }
 
 bool DiagramScene::event(QEvent* event)
@@ -75,10 +78,16 @@ bool DiagramScene::event(QEvent* event)
     return QGraphicsScene::event(event);
 }
 
-void DiagramScene::loseHand()
+void DiagramScene::freePointer()
 {
     if (QGraphicsItem* held = mouseGrabberItem())
-        held->ungrabMouse(); // the item ends its part, and ours
+        held->ungrabMouse();
+}
+
+void DiagramScene::loseHand()
+{
+    freePointer(); // the item ends its part, and calls abandonGesture()
+    endGesture();
 }
 
 void DiagramScene::abandonGesture()
@@ -87,8 +96,7 @@ void DiagramScene::abandonGesture()
         lastItem->releaseKey();
     if (isDragging())
         aimAt(nullptr);
-    leftDown = false;
-    clearItems();
+    endGesture();
 }
 
 bool DiagramScene::isDragging() const

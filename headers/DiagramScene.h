@@ -24,7 +24,8 @@ public:
     void mouseMoveHandle(QPointF pos);
     /// True while `currentItem` is a power button or header that is being dragged.
     [[nodiscard]] bool isDragging() const;
-    /// The hand is gone, wherever to: keys are released, what was dragged goes home. Nothing is dropped.
+    /// The hand is gone, wherever to: keys are released, a dragged button or header goes home undropped,
+    /// anchors stay where they are.
     void loseHand();
     /// The same for the scene's own part, for an item that lost the pointer.
     void abandonGesture();
@@ -33,7 +34,7 @@ public:
     /// The power button, else the first header in a rectangle of the scene, but never `self`; null if there
     /// is none. Headers that the power has hidden count.
     QGraphicsItem* findNearbyHeaderItem(QGraphicsItem* self, const QRectF& r);
-    /// The items in a rectangle with all headers shown, the uppermost first.
+    /// The items in a rectangle, the uppermost first, with the headers shown as they are with the power on.
     [[nodiscard]] QList<QGraphicsItem*> itemsAmongHeaders(const QRectF& r) const;
     /// No caller. Probes up to `count` points, the first at `self` plus `offset`, each `step` scene pixels
     /// further right, for an item whose data under `role` reads `word`; null if there is none.
@@ -65,7 +66,8 @@ protected:
 
 private:
     void beginGesture(const QGraphicsSceneMouseEvent& event);
-    void clearItems();
+    void endGesture();
+    void freePointer();
     void sweep(QPointF pos);
     [[nodiscard]] bool isPassedOver(const ResizableItem* key) const;
 

@@ -7,6 +7,8 @@
 #include "keys/PowerItem.h"
 #include "keys/key_roles.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr qreal powerRow = 28; // y of the power button
@@ -56,7 +58,7 @@ void DiagramScene::light(ResizableItem* target) const
 void DiagramScene::putOut(ResizableItem* target) const
 {
     if (target == powerItem)
-        powerItem->showSwitch(true); // a header can be dragged with the power on only
+        powerItem->showSwitch(powerItem->isSwitchOn());
     else if (auto* header = static_cast<HeaderItem*>(target))
         header->setStatus(header->isActive() ? header_active : header_deactive);
 }

@@ -118,6 +118,7 @@ private:
     void learnFromKey();
     void pushBlackIn();
     void togglePower();
+    void followPower() const;
     void recallPreset();
     [[nodiscard]] KeySheet idleSheet() const;
 

@@ -6,6 +6,7 @@
 #include "headers/DiagramScene.h"
 #include "keys/PowerItem.h"
 #include "keys/key_roles.h"
+#include "keys/pitch_mapping.h"
 #include "logging/categories.h"
 
 #include <QGraphicsSceneMouseEvent>
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int sweepReach = 2;           // semitones looked at on each side
 constexpr qreal atRest = 0, inHand = 1; // z
+constexpr qreal lowestHome = 16;        // x of the leftmost flag, one pixel beyond where a drag may go
 
 /// The in key at a place of the scene, looked for close to a pitch; null if none of them is there.
 ResizableItem* findKeyNear(int pitch, QPointF place)
@@ -91,7 +93,7 @@ void ResizableItem::dragAlong(const QGraphicsSceneMouseEvent& event)
     stage->mouseMoveHandle(event.scenePos());
     // The item's place is the pointer's; its picture keeps to the spot where the hand took it.
     const qreal left = event.scenePos().x() - gripX;
-    setOffset(qBound<qreal>(DiagramScene::rowLeft, left, DiagramScene::rowRight) - x(), 0);
+    setOffset(qBound<qreal>(lowestHome, left, DiagramScene::rowRight) - x(), 0);
 }
 
 void ResizableItem::endDrag()

@@ -12,15 +12,6 @@
 
 #include <QGraphicsSceneMouseEvent>
 
-namespace {
-
-bool isPowerOn()
-{
-    return mainWnd->powerItem->isSwitchOn();
-}
-
-} // namespace
-
 void ResizableItem::hoverEnterEvent(QGraphicsSceneHoverEvent* event)
 {
     if (key_roles::isPower(this)) {
@@ -35,10 +26,10 @@ void ResizableItem::hoverMoveEvent(QGraphicsSceneHoverEvent* event)
 {
     if (key_roles::isPower(this)) {
         const bool onButton = PowerItem::isOnButton(event->pos());
-        if (onButton && !powerGrabbed)
+        if (onButton) // each time: a key may have switched meanwhile
             mainWnd->powerItem->showHover();
         else if (!onButton && powerGrabbed)
-            mainWnd->powerItem->showSwitch(isPowerOn());
+            mainWnd->powerItem->showSwitch(mainWnd->isPowerOn());
         powerGrabbed = onButton;
     }
     QGraphicsPixmapItem::hoverMoveEvent(event);
@@ -48,7 +39,7 @@ void ResizableItem::hoverLeaveEvent(QGraphicsSceneHoverEvent* event)
 {
     // A fast hand crosses the rim between two events; the light must not stay behind.
     if (key_roles::isPower(this) && powerGrabbed)
-        mainWnd->powerItem->showSwitch(isPowerOn());
+        mainWnd->powerItem->showSwitch(mainWnd->isPowerOn());
     QGraphicsPixmapItem::hoverLeaveEvent(event);
 }
 
@@ -145,8 +136,8 @@ void ResizableItem::releaseHeader()
         return;
     endDrag();
     static_cast<HeaderItem*>(this)->restorePos();
-    mainWnd->setBackgroundSwitches(isPowerOn());
-    mainWnd->headerController->setHeadersStatus(isPowerOn());
+    mainWnd->setBackgroundSwitches(mainWnd->isPowerOn());
+    mainWnd->headerController->setHeadersStatus(mainWnd->isPowerOn());
 }
 
 void ResizableItem::releasePower(QPointF pos)
@@ -165,11 +156,7 @@ void ResizableItem::releasePower(QPointF pos)
         endDrag();
         power->restorePos(); // where the drop has put it, or where it came from
     }
-    const bool on = power->isSwitchOn();
-    mainWnd->setBackgroundSwitches(on);
-    mainWnd->headerController->setHeadersStatus(on);
-    power->setAllBlackBlue(on);
-    power->changeScaleByTonic();
+    followPower();
 }
 
 bool ResizableItem::sceneEvent(QEvent* event)
@@ -188,7 +175,7 @@ void ResizableItem::losePointer()
         stage->abandonGesture();
     if (key_roles::isPower(this)) {
         powerGrabbed = false;
-        mainWnd->powerItem->showSwitch(isPowerOn());
+        mainWnd->powerItem->showSwitch(mainWnd->isPowerOn());
         if (dragStarted)
             mainWnd->powerItem->restorePos();
         endDrag();

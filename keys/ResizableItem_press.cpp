@@ -17,11 +17,6 @@ constexpr int noteOn = 0x90;
 constexpr int noteOff = 0x80;
 constexpr int pointerVelocity = 75;
 
-bool isPowerOn()
-{
-    return mainWnd->powerItem->isSwitchOn();
-}
-
 bool isPowerKey(const QGraphicsItem* key)
 {
     return key_roles::pitch(key) == key_roles::pitch(mainWnd->powerItem);
@@ -113,7 +108,7 @@ void ResizableItem::pushBlackIn()
 {
     if (isPowerKey(this))
         togglePower();
-    else if (isPowerOn())
+    else if (mainWnd->isPowerOn())
         recallPreset();
 }
 
@@ -122,7 +117,7 @@ void ResizableItem::recallPreset()
     mainWnd->showBeforeRecall();
     HeaderController* presets = mainWnd->headerController;
     presets->setActiveHeader(presets->findHeader(key_roles::pitch(this)), true);
-    mainWnd->powerItem->setAllBlackBlue(isPowerOn());
+    mainWnd->powerItem->setAllBlackBlue(mainWnd->isPowerOn());
 }
 
 void ResizableItem::togglePower()
@@ -131,6 +126,13 @@ void ResizableItem::togglePower()
     const bool on = !power->isSwitchOn();
     power->showSwitch(on);
     power->setSwithOn(on);
+    followPower();
+}
+
+void ResizableItem::followPower() const
+{
+    PowerItem* power = mainWnd->powerItem;
+    const bool on = power->isSwitchOn();
     mainWnd->setBackgroundSwitches(on);
     mainWnd->headerController->setHeadersStatus(on);
     power->setAllBlackBlue(on);
@@ -159,7 +161,7 @@ KeySheet ResizableItem::idleSheet() const
 {
     if (key_roles::isDeactive(this))
         return KeySheet::deactive;
-    if (isPowerOn()) {
+    if (mainWnd->isPowerOn()) {
         if (key_roles::isOut(this) && key_roles::isColoured(this))
             return KeySheet::out;
         if (key_roles::isIn(this) && key_roles::isBlack(this))
@@ -177,8 +179,9 @@ void ResizableItem::releaseKey()
     const int sounded = key_roles::soundedOut(this);
     const bool in = key_roles::isIn(this);
     showCell(idleSheet(), KeyCell::idle, in ? KeyShine::blue : KeyShine::yellow);
-    // With the power on a black key sounded nothing. A deactive key hangs on to its note: kept.
-    if (in && !(key_roles::isBlack(this) && isPowerOn()))
+    // With the power on a black key stands for a preset and ends no note, not even one from before the power
+    // went on, and a deactive key hangs on to its note: both kept.
+    if (in && !(key_roles::isBlack(this) && mainWnd->isPowerOn()))
         releaseOUTbyIN(sounded);
     if (key_roles::isOut(this) && !key_roles::isEdgeReleased(this)) {
         key_roles::setEdgeReleased(this, true);

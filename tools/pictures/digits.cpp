@@ -37,9 +37,13 @@ const Glyphs signedGlyphs = {
 };
 
 // For the bars, where the twelve numbers of a chromatic scale stand close: the one has no foot to run into
-// its neighbours.
+// its neighbours, and the broad ones are narrower.
 const Glyphs narrowGlyphs = {
     {4, {".#.", "##.", ".#.", ".#.", ".#.", ".#.", ".#.", ".#."}},
+    {30, {"..##..", ".#....", ".#....", ".###..", ".#..#.", ".#..#.", ".#..#.", "..##.."}},
+    {43, {"..##..", ".#..#.", ".#..#.", "..##..", ".#..#.", ".#..#.", ".#..#.", "..##.."}},
+    {50, {".##...", "#..#..", "#..#..", "#..#..", ".###..", "...#..", "...#..", ".##..."}},
+    {57, {".##...", "#..#..", "#..#..", "#..#..", "#..#..", "#..#..", "#..#..", ".##..."}},
 };
 
 const Glyph& shapeOf(const Glyph& plain, const Glyphs& instead)
