@@ -55,9 +55,13 @@ bool AnchorsGroup::sceneEvent(QEvent* event)
     return QGraphicsItemGroup::sceneEvent(event);
 }
 
-// Above the bar lie the keys, which get the press then.
+// Above the bar lie the keys, which get the press then. The pictures pass every button up to here.
 void AnchorsGroup::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
     isPressed = true;
     event->setAccepted(event->scenePos().y() >= anchor_snap::barTop);
 }

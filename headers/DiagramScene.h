@@ -76,6 +76,7 @@ private:
     void light(ResizableItem* target) const;
     void putOut(ResizableItem* target) const;
     void settleDrop();
+    [[nodiscard]] bool isOvertaken() const;
 
     bool dropPower(ResizableItem* prev, PowerItem* power) const;
     bool dropHeader(ResizableItem* prev, HeaderItem* header) const;

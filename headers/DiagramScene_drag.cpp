@@ -66,12 +66,19 @@ void DiagramScene::putOut(ResizableItem* target) const
 void DiagramScene::settleDrop()
 {
     ResizableItem* target = dropTarget;
-    if (swapHeader(target, currentItem))
+    if (!isOvertaken() && swapHeader(target, currentItem))
         return;
     if (target && target != currentItem)
         putOut(target);
     if (currentItem == powerItem)
         powerItem->restorePos();
+}
+
+// The press has made a dragged header the active one. If a recall made another active meanwhile, a drop would
+// activate this one behind the selectors' back, and they would be stored in the wrong preset.
+bool DiagramScene::isOvertaken() const
+{
+    return key_roles::isHeader(currentItem) && !static_cast<const HeaderItem*>(currentItem)->isActive();
 }
 
 QList<QGraphicsItem*> DiagramScene::itemsAmongHeaders(const QRectF& r) const

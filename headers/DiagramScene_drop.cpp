@@ -17,18 +17,6 @@ HeaderItem* toHeader(ResizableItem* item)
     return key_roles::isHeader(item) ? static_cast<HeaderItem*>(item) : nullptr;
 }
 
-/// Who was active is so in the other's place, since the records changed places. The press has made a dragged
-/// header the active one, but a recall may have come in between: its selectors must not end in this record.
-void swapActivity(HeaderItem* dragged, HeaderItem* other)
-{
-    HeaderItem* heir = dragged->isActive() ? other : other->isActive() ? dragged : nullptr;
-    if (heir)
-        heir->setStatus(header_active);
-    for (HeaderItem* header : {dragged, other})
-        if (header != heir)
-            header->setStatus(header_deactive);
-}
-
 HeaderItem* headerUnder(const PowerItem* power)
 {
     return mainWnd->headerController->findHeader(key_roles::pitch(power));
@@ -82,7 +70,7 @@ bool DiagramScene::dropPower(ResizableItem* prev, PowerItem* power) const
 bool DiagramScene::dropHeader(ResizableItem* prev, HeaderItem* header) const
 {
     if (!prev) {
-        header->setStatus(header->isActive() ? header_active : header_deactive);
+        header->setStatus(header_active);
         return false;
     }
     if (HeaderItem* target = toHeader(prev)) {
@@ -90,14 +78,16 @@ bool DiagramScene::dropHeader(ResizableItem* prev, HeaderItem* header) const
             target->copyHeadersData(header);
         else
             target->swapHeadersData(header);
-        swapActivity(header, target);
+        target->setStatus(header_active);
+        header->setStatus(header_deactive);
         return true;
     }
     HeaderItem* under = prev == powerItem ? headerUnder(powerItem) : nullptr;
     if (!under || under == header)
         return false;
     under->swapHeadersData(header);
-    swapActivity(header, under);
+    under->setStatus(header_active);
+    header->setStatus(header_deactive);
     movePowerTo(header, powerItem);
     powerItem->setSwithOn(true);
     powerItem->showSwitch(true);

@@ -168,10 +168,12 @@ void TestPictures::digitsStandInTheirColumns()
                               {30, 35}, {37, 41}, {43, 48}, {50, 55}, {57, 62}};
     QList<int> used;
     for (const auto& glyph : columns) {
-        QVERIFY(!isBlankColumn(image, glyph[0]));
-        QVERIFY(!isBlankColumn(image, glyph[1]));
-        for (int x = glyph[0]; x <= glyph[1]; ++x)
+        int inked = 0;
+        for (int x = glyph[0]; x <= glyph[1]; ++x) {
             used.append(x);
+            inked += isBlankColumn(image, x) ? 0 : 1;
+        }
+        QVERIFY(inked > 1); // those of the bars are narrower than their columns
     }
     for (int x = 0; x < image.width(); ++x)
         if (!used.contains(x))
