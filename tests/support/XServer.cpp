@@ -1,24 +1,30 @@
 #include "XServer.h"
 
 #include <QStringList>
+#include <QtTest>
 
 namespace {
 
 // The program compresses moves that pile up in its queue: a hand is slower than that.
 constexpr char handPause[] = "0.04";
 
-bool xdotool(const QStringList& arguments)
+bool xdotool(const QStringList& arguments,
+             QProcess::ProcessChannelMode channels = QProcess::ForwardedChannels)
 {
     ChildProcess hand;
-    hand.setProcessChannelMode(QProcess::ForwardedChannels);
+    hand.setProcessChannelMode(channels);
     hand.start(QStringLiteral("xdotool"), arguments);
     return hand.waitForFinished(-1) && hand.exitStatus() == QProcess::NormalExit && hand.exitCode() == 0;
 }
 
+QStringList jumpTo(QPoint pos)
+{
+    return {QStringLiteral("mousemove"), QString::number(pos.x()), QString::number(pos.y())};
+}
+
 QStringList moveTo(QPoint pos)
 {
-    return {QStringLiteral("mousemove"), QString::number(pos.x()), QString::number(pos.y()),
-            QStringLiteral("sleep"), QString::fromLatin1(handPause)};
+    return jumpTo(pos) + QStringList{QStringLiteral("sleep"), QString::fromLatin1(handPause)};
 }
 
 } // namespace
@@ -33,8 +39,9 @@ bool XServer::start()
 {
     process.setProgram(QStringLiteral("Xvfb"));
     process.setArguments({QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                          QStringLiteral("0"), QStringLiteral("952x480x24"), QStringLiteral("-dpi"),
-                          QStringLiteral("96"), QStringLiteral("-br")});
+                          QStringLiteral("0"),
+                          QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height()),
+                          QStringLiteral("-dpi"), QStringLiteral("96"), QStringLiteral("-br")});
     process.start();
     if (!process.waitForStarted() || !process.waitForReadyRead(20000))
         return false;
@@ -45,6 +52,15 @@ bool XServer::start()
 bool XServer::click(QPoint pos, int button)
 {
     return xdotool(moveTo(pos) + QStringList{QStringLiteral("click"), QString::number(button)});
+}
+
+bool XServer::clickAll(const QList<QPoint>& points)
+{
+    QStringList arguments;
+    for (const QPoint& point : points)
+        arguments += jumpTo(point) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1"),
+                                                 QStringLiteral("mouseup"), QStringLiteral("1")};
+    return xdotool(arguments);
 }
 
 bool XServer::drag(const QList<QPoint>& points)
@@ -60,4 +76,28 @@ bool XServer::drag(const QList<QPoint>& points)
 bool XServer::key(const QString& name)
 {
     return xdotool({QStringLiteral("key"), name});
+}
+
+bool XServer::move(QPoint pos)
+{
+    return xdotool(jumpTo(pos));
+}
+
+bool XServer::press(int button)
+{
+    return xdotool({QStringLiteral("mousedown"), QString::number(button)});
+}
+
+bool XServer::release(int button)
+{
+    return xdotool({QStringLiteral("mouseup"), QString::number(button)});
+}
+
+bool XServer::bringToOrigin(const QString& title)
+{
+    const QStringList arguments{QStringLiteral("search"),     QStringLiteral("--onlyvisible"),
+                                QStringLiteral("--name"),     title,
+                                QStringLiteral("windowmove"), QStringLiteral("0"),
+                                QStringLiteral("0")};
+    return QTest::qWaitFor([&] { return xdotool(arguments, QProcess::MergedChannels); }, 10000);
 }

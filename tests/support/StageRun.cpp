@@ -1,0 +1,58 @@
+#include "StageRun.h"
+
+#include "XServer.h"
+
+#include <QtTest>
+
+namespace {
+
+const QString virtualIn = QStringLiteral(":Sorvane MIDI In");
+const QString virtualOut = QStringLiteral(":Sorvane MIDI Out");
+
+} // namespace
+
+bool StageRun::startService()
+{
+    if (!daemon.start())
+        why = QStringLiteral("NO PIPEWIRE DAEMON: ") + daemon.reason();
+    else if (!JackPlayer("probe").isOpen())
+        why = QStringLiteral("NO JACK INTERFACE on the private PipeWire daemon (is pw-jack there?)");
+    return why.isEmpty();
+}
+
+bool StageRun::start(const QStringList& arguments)
+{
+    program = std::make_unique<ProgramUnderTest>(programPath);
+    if (!program->start(
+            QStringList{QStringLiteral("--midi-api"), QStringLiteral("jack"), QStringLiteral("--debug")} +
+            arguments) ||
+        !XServer::bringToOrigin(QStringLiteral("^Sorvane$")))
+        return false;
+    player = std::make_unique<JackPlayer>("player");
+    return player->connectOutputTo(virtualIn) && player->connectInputTo(virtualOut) && player->waitForEcho();
+}
+
+int StageRun::stop()
+{
+    player.reset();
+    const int status = program ? program->stop() : -1;
+    program.reset();
+    return status;
+}
+
+bool StageRun::waitForMoves(int count)
+{
+    const QString line = QStringLiteral("ResizableItem::mouseMoveEvent");
+    return QTest::qWaitFor([&] { return program->errors().count(line) >= count; });
+}
+
+// The X server has passed the event on before the echo sets out, but the program's loop may look at its MIDI
+// events first: the second echo comes a turn of that loop later.
+StageRun::Messages StageRun::heard(int expected)
+{
+    Messages messages = player->collect(expected);
+    messages += player->answerTo({});
+    if (expected == 0)
+        messages += player->answerTo({});
+    return messages;
+}
