@@ -63,6 +63,8 @@ void DiagramScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
             lastItem->releaseKey();
         if (leftDown && !learning)
             settleDrop();
+        else if (isDragging())
+            aimAt(nullptr);
         endGesture();
     }
     QGraphicsScene::mouseReleaseEvent(event);

@@ -2,8 +2,8 @@
 // hand, and the ways in which a hand leaves a key other than by letting go of it there. Guards that no press
 // is lost to what lies over the keys, and that every note that the hand began ends.
 
-#include "MappingRule.h"
 #include "OtherWindow.h"
+#include "StagePlaces.h"
 #include "StageRun.h"
 #include "SweepModel.h"
 #include "XServer.h"
@@ -37,25 +37,13 @@ Messages noteOff(int pitch)
     return {{0x80, pitch, 0}};
 }
 
-/// What each key plays: its own pitch with the power off, the scale on the white ones with the power on.
-std::map<int, int> targetsOf(bool power)
-{
-    std::bitset<12> degrees;
-    for (std::size_t n = 0; n < 12; ++n)
-        degrees[n] = word[n] == 'x';
-    const MappingRule rule(tonic, degrees);
-    std::map<int, int> targets;
-    for (int key = 21; key <= 108; ++key)
-        targets[key] = !power ? key : isWhite(key) ? rule.target.at(key) : -1;
-    return targets;
-}
-
+/// The in key at a pixel, 0 for none.
 int keyAt(QPoint pixel)
 {
-    int key = 21;
-    while (key < 108 && !stage::isOnInKey(key, pixel))
-        ++key;
-    return key;
+    for (int key = 21; key <= 108; ++key)
+        if (stage::isOnInKey(key, pixel))
+            return key;
+    return 0;
 }
 
 QList<QPoint> path(int fromX, int toX, int step, int y)
@@ -144,14 +132,14 @@ void EndToEndStageKeys::eachKeySoundsOnceUnderTheHand()
 // Moves that pile up are taken as one: each waits for the one before.
 void EndToEndStageKeys::sweep(const QList<QPoint>& points, bool power)
 {
-    SweepModel model(targetsOf(power), power, powerKey);
+    SweepModel model(power, powerKey, tonic, word);
     QVERIFY(XServer::move(points.first()));
     QVERIFY(XServer::press());
     Messages expected = model.press(keyAt(points.first()));
     for (int i = 1; i < points.size(); ++i) {
         QVERIFY(XServer::move(points.at(i)));
         QVERIFY(run.waitForMoves(i));
-        expected += model.move(points.at(i));
+        expected += model.move(keyAt(points.at(i)));
     }
     QVERIFY(XServer::release());
     expected += model.release();

@@ -2,6 +2,8 @@
 
 #include "StageFixture.h"
 
+#include "keys/pictures.h"
+
 namespace {
 
 void check(QStringList& faults, bool good, const QString& what, int key = 0)
@@ -52,6 +54,38 @@ const QSet<int>& StageFixture::sounding()
 {
     sent();
     return soundingNow;
+}
+
+void StageFixture::addPowers()
+{
+    QTest::addColumn<bool>("switchedOn");
+    QTest::newRow("power off") << false;
+    QTest::newRow("power on") << true;
+}
+
+void StageFixture::chooseMap(bool switchedOn, const QString& word) const
+{
+    window->setPower(switchedOn);
+    setScale(word);
+}
+
+QStringList StageFixture::records() const
+{
+    QStringList lines;
+    for (const HeaderItem* item : qAsConst(presets().headers))
+        lines << asText(item->record);
+    return lines;
+}
+
+bool StageFixture::powerShows(std::initializer_list<const char*> states) const
+{
+    QPixmap wanted;
+    for (const char* state : states) {
+        const QString path = QStringLiteral(":/Resources/Power/POWERBUTTON%1.png").arg(QLatin1String(state));
+        const QPixmap layer = pictures::load(path);
+        wanted = wanted.isNull() ? layer : pictures::overlay(wanted, layer, QRect(0, 0, 19, 82));
+    }
+    return power()->pixmap().toImage() == wanted.toImage();
 }
 
 QPointF StageFixture::stemOf(int key) const

@@ -1,26 +1,12 @@
-// The anchors as they are made, where a remap puts them, and which of them can be seen.
+// The in anchors and their group as they are made and found by name, where a remap puts them, and which of
+// them can be seen.
 
 #include "AnchorRule.h"
 #include "HeaderFixture.h"
+#include "anchor_parts.h"
 #include "headers/AnchorItem.h"
 
-#include <QGraphicsPixmapItem>
-
 namespace {
-
-constexpr int side = 1, pitchRole = 2, nameRole = 99;
-
-const QMap<QString, QPointF> outDigits = {{"main", {9, 7}}, {"right", {10, 7}}, {"left", {8, 7}}};
-
-QImage imageOf(const QPixmap& pixmap)
-{
-    return pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
-}
-
-const QGraphicsPixmapItem* part(const QGraphicsItem* anchor, int i)
-{
-    return qgraphicsitem_cast<const QGraphicsPixmapItem*>(anchor->childItems().value(i));
-}
 
 /// The first `count` degrees of the chromatic scale.
 QString wordOf(int count)
@@ -47,11 +33,6 @@ private slots:
     void groupIsMovableAndNothingElse();
     void groupKnowsTheStage();
     void groupStartsWithBothGrids();
-    void outAnchorsAreNineInTheirLists();
-    void outAnchorsAreMadeOfTwoPictures();
-    void outAnchorsDataIsTheirNameAndTheMainMark();
-    void outAnchorsTakeNoPointer();
-    void outAnchorsStartHiddenButTheMainOne();
 
     // By name
     void findAnchorByNameGivesEachOfTheNine();
@@ -60,11 +41,7 @@ private slots:
 
     // Placed by a remap
     void inAnchorsStandOctavesOfTheScaleApart();
-    void outAnchorsStandOnTheTonicOfEachOctave();
-    void outAnchorsShowWithThePowerOnOnly();
-    void outAnchorStaysWhereItWasWithoutAKey();
     void placingLeavesTheGroupAlone();
-    void anchorsAreDimmedWithThePowerOff();
 
     // Dimmed beyond the bar
     void refreshDimsWhatLiesBeyondTheBar();
@@ -75,15 +52,7 @@ private slots:
 private:
     QList<QGraphicsItem*> inAnchors() const { return anchors()->childItems(); }
     QGraphicsItem* inAnchor(int n) const { return anchors()->findAnchorByName(AnchorItem::nameOf(n)); }
-    QGraphicsItemGroup* outAnchor(int n) const;
 };
-
-QGraphicsItemGroup* TestAnchors::outAnchor(int n) const
-{
-    if (n == 0)
-        return power()->mainAnchorOut;
-    return n > 0 ? power()->anchorsOutRight.value(n - 1) : power()->anchorsOutLeft.value(-n - 1);
-}
 
 void TestAnchors::inAnchorsAreNineInTheirLists()
 {
@@ -195,65 +164,6 @@ void TestAnchors::groupStartsWithBothGrids()
     QCOMPARE(anchors()->gridLeft.mid(0, 3), (QList<int>{0, -17, -34}));
 }
 
-void TestAnchors::outAnchorsAreNineInTheirLists()
-{
-    QCOMPARE(power()->anchorsOutRight.size(), 4);
-    QCOMPARE(power()->anchorsOutLeft.size(), 4);
-    for (int n = -4; n <= 4; ++n) {
-        QVERIFY(outAnchor(n));
-        QCOMPARE(outAnchor(n)->type(), 10);
-        QVERIFY(!dynamic_cast<AnchorItem*>(outAnchor(n)));
-        QCOMPARE(outAnchor(n)->scene(), window->ui.outKeyboardGraphicsView->scene());
-        QVERIFY(!outAnchor(n)->parentItem());
-        QVERIFY(!(outAnchor(n)->flags() & QGraphicsItem::ItemIsMovable));
-    }
-}
-
-void TestAnchors::outAnchorsAreMadeOfTwoPictures()
-{
-    const QImage flag = imageOf(QPixmap(QStringLiteral(":/Resources/OUTPUTAnchor2.png")));
-    for (int n = -4; n <= 4; ++n) {
-        const QGraphicsItem* anchor = outAnchor(n);
-        const QString kind = n == 0  ? QStringLiteral("main")
-                             : n > 0 ? QStringLiteral("right")
-                                     : QStringLiteral("left");
-        QCOMPARE(anchor->childItems().size(), 2);
-        QCOMPARE(part(anchor, 0)->pos(), QPointF(12, -15));
-        QCOMPARE(imageOf(part(anchor, 0)->pixmap()), flag);
-        QCOMPARE(part(anchor, 1)->pos(), QPointF(12, -15) + outDigits.value(kind));
-        QCOMPARE(imageOf(part(anchor, 1)->pixmap()),
-                 imageOf(window->getDigitalPix(MainWnd::digit_anchor_out, n)));
-        QVERIFY(!part(anchor, 1)->pixmap().isNull());
-    }
-}
-
-void TestAnchors::outAnchorsDataIsTheirNameAndTheMainMark()
-{
-    for (int n = -4; n <= 4; ++n) {
-        QCOMPARE(outAnchor(n)->data(nameRole),
-                 QVariant(n == 0 ? QStringLiteral("main") : QString::number(n)));
-        QCOMPARE(outAnchor(n)->data(side), n == 0 ? QVariant(59) : QVariant());
-        QCOMPARE(part(outAnchor(n), 0)->data(pitchRole), QVariant());
-    }
-}
-
-void TestAnchors::outAnchorsTakeNoPointer()
-{
-    for (int n = -4; n <= 4; ++n) {
-        QCOMPARE(outAnchor(n)->acceptedMouseButtons(), Qt::MouseButtons(Qt::NoButton));
-        for (const QGraphicsItem* picture : outAnchor(n)->childItems()) {
-            QCOMPARE(picture->acceptedMouseButtons(), Qt::MouseButtons(Qt::NoButton));
-            QVERIFY(!picture->hasCursor());
-        }
-    }
-}
-
-void TestAnchors::outAnchorsStartHiddenButTheMainOne()
-{
-    for (int n = -4; n <= 4; ++n)
-        QCOMPARE(outAnchor(n)->isVisible(), n == 0);
-}
-
 void TestAnchors::findAnchorByNameGivesEachOfTheNine()
 {
     QCOMPARE(anchors()->findAnchorByName(QStringLiteral("main")),
@@ -296,50 +206,6 @@ void TestAnchors::inAnchorsStandOctavesOfTheScaleApart()
     }
 }
 
-// Seen from the keys: the tip, 11 pixels into the picture, is on the left edge of the key.
-void TestAnchors::outAnchorsStandOnTheTonicOfEachOctave()
-{
-    window->setPower(true);
-    for (int tonicPitch = 60; tonicPitch < 72; ++tonicPitch) {
-        tonic().setActiveKey(tonic().findKey(tonicPitch - 60));
-        power()->remap();
-        for (int n = -4; n <= 4; ++n) {
-            const int pitch = tonicPitch + 12 * n;
-            const bool exists = pitch >= 21 && pitch <= 108;
-            QCOMPARE(outAnchor(n)->isVisible(), exists);
-            if (!exists)
-                continue;
-            const QGraphicsItem* key = window->findInNote(pitch)->pairedOutKey;
-            QCOMPARE(part(outAnchor(n), 0)->scenePos().x() + 11, key->scenePos().x());
-            QCOMPARE(outAnchor(n)->y(), 0.0);
-        }
-    }
-}
-
-void TestAnchors::outAnchorsShowWithThePowerOnOnly()
-{
-    for (const bool power : {true, false, true, false}) {
-        window->setPower(power);
-        for (int n = -4; n <= 4; ++n) {
-            const int pitch = 60 + 12 * n;
-            QCOMPARE(outAnchor(n)->isVisible(), n == 0 || (power && pitch >= 21 && pitch <= 108));
-        }
-    }
-}
-
-// The lowest keyboard octave begins with A0: anchor -4 has no key below it with C as the tonic.
-void TestAnchors::outAnchorStaysWhereItWasWithoutAKey()
-{
-    window->setPower(true);
-    setTonic("A");
-    const qreal x = outAnchor(-4)->x();
-    setTonic("C");
-    QVERIFY(!outAnchor(-4)->isVisible());
-    QCOMPARE(outAnchor(-4)->x(), x);
-    setTonic("A");
-    QVERIFY(outAnchor(-4)->isVisible());
-}
-
 void TestAnchors::placingLeavesTheGroupAlone()
 {
     window->setPower(true);
@@ -349,16 +215,6 @@ void TestAnchors::placingLeavesTheGroupAlone()
     QCOMPARE(anchors()->pos(), QPointF(34, 7));
     QCOMPARE(inAnchor(1)->pos(), QPointF(6 * 17, 0));
     QCOMPARE(inAnchor(1)->scenePos(), QPointF(34 + 6 * 17, 7));
-}
-
-void TestAnchors::anchorsAreDimmedWithThePowerOff()
-{
-    window->setPower(true);
-    QCOMPARE(anchors()->opacity(), 1.0);
-    QCOMPARE(outAnchor(0)->opacity(), 1.0);
-    window->setPower(false);
-    QVERIFY(anchors()->opacity() > 0.1 && anchors()->opacity() < 0.9);
-    QCOMPARE(outAnchor(0)->opacity(), anchors()->opacity());
 }
 
 void TestAnchors::refreshDimsWhatLiesBeyondTheBar()

@@ -1,14 +1,10 @@
-// A hand that sweeps over the keys, message by message.
+// A hand that sweeps over the keys, message by message: which key each move ends, which it begins, and what
+// a recall or a remap in between does to it.
 
 #include "StageFixture.h"
-#include "SweepModel.h"
-
-#include "MappingRule.h"
 
 #include <QTimer>
 #include <QtTest>
-
-#include <random>
 
 class TestGlissando : public StageFixture
 {
@@ -17,7 +13,7 @@ class TestGlissando : public StageFixture
 private slots:
     void init();
 
-    // The rule, in single steps
+    // In single steps
     void moveWithinTheKeyEndsItTwice();
     void firstMoveThatLeavesTheKeyReleasesIt();
     void oldKeyEndsBeforeTheNewOneBegins();
@@ -37,32 +33,9 @@ private slots:
     void pressThatWasArmedTakesTheGesture();
     void moveDisarms();
 
-    // Against the model
-    void wholeKeyboard_data();
-    void wholeKeyboard();
-    void sweepsAtRandom_data();
-    void sweepsAtRandom();
-
     // The event loop runs within a recall
     void gestureThatEndsWithinItsOwnPressIsOver();
     void messagesBehindAPressedPresetPlayTheNewMapping();
-
-    // Learn modes
-    void scaleLearnsEachSweptKeyOnce();
-    void scaleLearnsBlackKeysAtAnyPower_data();
-    void scaleLearnsBlackKeysAtAnyPower();
-    void tonicLearnsTheLastSweptKey();
-    void learnedPowerKeyDoesNotSwitch();
-    void headerInLearnModeIsAKey();
-    void releaseInLearnModeEndsTheGesture();
-
-private:
-    /// A white key below the black ones, and any key among them.
-    QPointF low(int note) const { return {onKey(in(note)).x(), 130}; }
-    QPointF high(int note) const { return {in(note)->sceneBoundingRect().center().x(), 100}; }
-    QPoint inKeyboard(QPointF place) const { return (place - in(21)->pos()).toPoint(); }
-    void setUp(bool switchedOn, const QString& word) const;
-    static std::map<int, int> targetsOf(const QString& word);
 };
 
 // Recalls must not change the map under a sweep.
@@ -70,20 +43,6 @@ void TestGlissando::init()
 {
     openStage();
     emptyHeaders();
-}
-
-void TestGlissando::setUp(bool switchedOn, const QString& word) const
-{
-    window->setPower(switchedOn);
-    setScale(word);
-}
-
-std::map<int, int> TestGlissando::targetsOf(const QString& word)
-{
-    std::bitset<12> degrees;
-    for (int i = 0; i < 12; ++i)
-        degrees[std::size_t(i)] = word.at(i) == QLatin1Char('x');
-    return MappingRule(0, degrees).target;
 }
 
 void TestGlissando::moveWithinTheKeyEndsItTwice()
@@ -160,7 +119,7 @@ void TestGlissando::blackKeysAreSweptWithThePowerOff()
 
 void TestGlissando::blackKeysArePassedOverWithThePowerOn()
 {
-    setUp(true, ionian);
+    chooseMap(true, ionian);
     hand->press(low(60));
     hand->move(high(61));
     QCOMPARE(sent(), Messages{noteOn(60)}); // the last white key goes on sounding
@@ -188,7 +147,7 @@ void TestGlissando::powerKeyIsPassedOverWithThePowerOff()
 
 void TestGlissando::greyKeysAreSweptInSilence()
 {
-    setUp(true, octaves); // C alone: 60 plays 60, 62 plays 72, 67 plays 108 and no key beyond
+    chooseMap(true, octaves); // C alone: 60 plays 60, 62 plays 72, 67 plays 108 and no key beyond
     hand->press(low(65));
     for (const int note : {67, 69, 71})
         hand->move(low(note));
@@ -209,7 +168,7 @@ void TestGlissando::sweepFromABlackKeyWithThePowerOff()
 
 void TestGlissando::sweepFromABlackKeyWithThePowerOnRecallsOnce()
 {
-    setUp(true, ionian);
+    chooseMap(true, ionian);
     hand->press(high(61));
     QCOMPARE(active(), 61);
     hand->move(high(61) + QPointF(1, 0));
@@ -274,7 +233,7 @@ void TestGlissando::secondPressOfADoubleClickSweeps()
 
 void TestGlissando::remapDuringASweepEndsWhatItBegan()
 {
-    setUp(true, ionian);
+    chooseMap(true, ionian);
     hand->press(low(60));
     hand->move(low(62));
     setTonic("E");
@@ -310,90 +269,6 @@ void TestGlissando::moveDisarms()
     hand->move(low(60) + QPointF(1, 0));
     QVERIFY(!scene()->armed);
     hand->release();
-}
-
-void TestGlissando::wholeKeyboard_data()
-{
-    QTest::addColumn<bool>("switchedOn");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("step");
-    for (const int step : {1, 5, 17, 34, 60})
-        for (const int row : {15, 40, 84}) { // two rows cross the black keys
-            QTest::addRow("off, row %d, %d px", row, step) << false << ionian << row << step;
-            QTest::addRow("on, row %d, %d px", row, step) << true << ionian << row << step;
-            QTest::addRow("grey keys, row %d, %d px", row, step) << true << octaves << row << step;
-        }
-}
-
-void TestGlissando::wholeKeyboard()
-{
-    QFETCH(bool, switchedOn);
-    QFETCH(QString, word);
-    QFETCH(int, row);
-    QFETCH(int, step);
-    setUp(switchedOn, word);
-    SweepModel model(switchedOn, targetsOf(word));
-    const QPointF origin = in(21)->pos();
-    const auto place = [&](int x) { return QPoint(x, row); };
-    hand->press(origin + place(1));
-    model.press(place(1));
-    int x = 1;
-    for (const int way : {step, -step})
-        for (; x >= 1 && x < 52 * 17; x += way) {
-            hand->move(origin + place(x));
-            model.move(place(x));
-            const Messages wanted = model.take(), got = sent();
-            QVERIFY2(got == wanted, qPrintable(QStringLiteral("at %1").arg(x)));
-            if (way > 0 && x + way >= 52 * 17)
-                break;
-        }
-    hand->release();
-    model.release();
-    QCOMPARE(sent(), model.take());
-    QVERIFY(sounding().isEmpty());
-    QCOMPARE(unrest(), QString());
-}
-
-void TestGlissando::sweepsAtRandom_data()
-{
-    QTest::addColumn<bool>("switchedOn");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<int>("seed");
-    for (int seed = 1; seed <= 3; ++seed) {
-        QTest::addRow("off, seed %d", seed) << false << ionian << seed;
-        QTest::addRow("on, seed %d", seed) << true << ionian << seed;
-        QTest::addRow("grey keys, seed %d", seed) << true << octaves << seed;
-    }
-}
-
-void TestGlissando::sweepsAtRandom()
-{
-    QFETCH(bool, switchedOn);
-    QFETCH(QString, word);
-    QFETCH(int, seed);
-    setUp(switchedOn, word);
-    SweepModel model(switchedOn, targetsOf(word));
-    std::mt19937 random(static_cast<unsigned>(seed));
-    const auto number = [&](int from, int to) {
-        return std::uniform_int_distribution<int>(from, to)(random);
-    };
-    const QPointF origin = in(21)->pos();
-    for (int gesture = 0; gesture < 60; ++gesture) {
-        QPoint place(number(0, 52 * 17 - 1), number(65, 98));
-        hand->press(origin + place);
-        model.press(place);
-        for (int moves = number(0, 40); moves > 0; --moves) {
-            place += QPoint(number(-20, 20), number(-15, 15));
-            hand->move(origin + place);
-            model.move(place);
-        }
-        hand->release();
-        model.release();
-        QCOMPARE(sent(), model.take());
-        QCOMPARE(unrest(), QString());
-    }
-    QVERIFY(sounding().isEmpty());
 }
 
 // The press of a preset's key runs the event loop; what happens in there may take the pointer away.
@@ -436,109 +311,6 @@ void TestGlissando::messagesBehindAPressedPresetPlayTheNewMapping()
     hand->release();
     QCOMPARE(sent(), Messages{noteOff(64)});
     QCOMPARE(unrest(), QString());
-}
-
-void TestGlissando::scaleLearnsEachSweptKeyOnce()
-{
-    setUp(true, ionian);
-    window->learnScale = true;
-    window->learnPending = true;
-    hand->press(low(62));
-    QCOMPARE(scale().scaleModifier(), QStringLiteral("xoooxxoxoxox"));
-    QVERIFY(!window->learnPending);
-    for (int x = 0; x < 4; ++x)
-        hand->move(low(62) + QPointF(x, 0));
-    QCOMPARE(scale().scaleModifier(), QStringLiteral("xoooxxoxoxox"));
-    hand->move(low(64));
-    QCOMPARE(scale().scaleModifier(), QStringLiteral("xooooxoxoxox"));
-    hand->move(low(62)); // back again
-    QCOMPARE(scale().scaleModifier(), QStringLiteral("xoxooxoxoxox"));
-    hand->release();
-    QCOMPARE(scale().scaleModifier(), QStringLiteral("xoxooxoxoxox"));
-    window->learnScale = false;
-    QCOMPARE(sent(), Messages());
-    QCOMPARE(unrest(), QString());
-}
-
-void TestGlissando::scaleLearnsBlackKeysAtAnyPower_data()
-{
-    QTest::addColumn<bool>("switchedOn");
-    QTest::newRow("power off") << false;
-    QTest::newRow("power on") << true;
-}
-
-void TestGlissando::scaleLearnsBlackKeysAtAnyPower()
-{
-    QFETCH(bool, switchedOn);
-    setUp(switchedOn, ionian);
-    window->learnScale = true;
-    hand->press(low(60)); // the tonic stays
-    hand->move(high(61));
-    hand->move(low(62));
-    hand->move(high(63));
-    hand->release();
-    window->learnScale = false;
-    QCOMPARE(scale().scaleModifier(), QStringLiteral("xxoxxxoxoxox"));
-    QCOMPARE(active(), firstActive);
-    QCOMPARE(sent(), Messages());
-    QCOMPARE(unrest(), QString());
-}
-
-void TestGlissando::tonicLearnsTheLastSweptKey()
-{
-    setUp(true, ionian);
-    window->learnTonic = true;
-    hand->press(low(64));
-    QCOMPARE(tonic().tonicModifierIndex(), 4);
-    hand->move(low(65));
-    QCOMPARE(tonic().tonicModifierIndex(), 5);
-    hand->move(high(66));
-    QCOMPARE(tonic().tonicModifierIndex(), 6);
-    hand->release();
-    window->learnTonic = false;
-    QCOMPARE(tonic().tonicModifierIndex(), 6);
-    QCOMPARE(sent(), Messages());
-    QCOMPARE(unrest(), QString());
-}
-
-void TestGlissando::learnedPowerKeyDoesNotSwitch()
-{
-    window->learnTonic = true;
-    hand->press(low(48));
-    hand->move(high(powerKey));
-    QCOMPARE(tonic().tonicModifierIndex(), 1);
-    hand->release();
-    window->learnTonic = false;
-    QVERIFY(!power()->isSwitchOn());
-    QCOMPARE(unrest(), QString());
-}
-
-void TestGlissando::headerInLearnModeIsAKey()
-{
-    window->setPower(true);
-    const QStringList before = state();
-    window->learnTonic = true;
-    hand->press(boxOf(25));
-    QVERIFY(header(25)->isPushed);
-    hand->glideTo(stemOf(32));
-    QCOMPARE(header(25)->pos(), header(25)->homePos);
-    hand->release();
-    window->learnTonic = false;
-    QCOMPARE(state(), before);
-    QCOMPARE(sent(), Messages());
-    QCOMPARE(unrest(), QString());
-}
-
-void TestGlissando::releaseInLearnModeEndsTheGesture()
-{
-    hand->press(low(60));
-    hand->move(low(62));
-    window->learnScale = true;
-    hand->release();
-    QCOMPARE(unrest(), QString());
-    window->learnScale = false;
-    // Kept: what a learn mode catches while it sounds goes on sounding, since no message leaves in it.
-    QCOMPARE(sounding(), QSet<int>{62});
 }
 
 QTEST_MAIN(TestGlissando)

@@ -1,20 +1,13 @@
-// Gestures that lose the pointer: the window goes to the back or away, a question comes up, the power goes
-// off. Keys must be released, what was dragged must go home undropped, and the next gesture must be like any
-// other.
+// Gestures that lose the pointer. Keys must be released, what was dragged must go home undropped, and the
+// next gesture must be like any other.
 
-#include "StageFixture.h"
-
-#include "header_pictures.h"
+#include "GestureFixture.h"
 
 #include <QApplication>
-#include <QMenu>
 #include <QMessageBox>
 #include <QtTest>
 
-#include <functional>
-#include <vector>
-
-class TestInterruptedGestures : public StageFixture
+class TestInterruptedGestures : public GestureFixture
 {
     Q_OBJECT
 
@@ -38,78 +31,19 @@ private slots:
     void releaseOutsideTheWindow_data();
     void releaseOutsideTheWindow();
 
-    // The power goes off
-    void powerOffEndsAHeaderDrag_data();
-    void powerOffEndsAHeaderDrag();
-    void powerOffDuringAPowerDragShowsAtItsEnd();
-    void powerDuringAPressInTheSquare();
-    void powerOffDuringASweepEndsTheNote();
-
-    // The question
-    void questionEndsTheGestureBeforeItIsAsked_data();
-    void questionEndsTheGestureBeforeItIsAsked();
-    void acceptedQuestionFindsEverythingAtHome();
-
-    // The menu
-    void menuDoesNotOpenWhileSomethingIsHeld_data();
-    void menuDoesNotOpenWhileSomethingIsHeld();
-    void menuOpensBetweenGestures();
-
     // The end
     void windowThatGoesEndsTheGesture_data();
     void windowThatGoesEndsTheGesture();
 
 private:
-    struct Gesture
-    {
-        const char* name;
-        std::function<void()> begin;
-    };
     struct Interruption
     {
         const char* name;
         std::function<void()> strike, recover;
     };
-    std::vector<Gesture> gestures();
     std::vector<Interruption> interruptions();
-    void addGestures();
     void addGesturesAnd(const char* column, const std::vector<const char*>& others) const;
-    /// Begins the gesture of the data row.
-    void begin(const QString& name);
-    void activate() const;
-    void expectTheNextGesturesToWork();
-    QPointF anchorGrip() const { return {anchors()->x() + 399, 165}; }
-    void toggleByMidi() const
-    {
-        window->receiveMessage({0x90, key_roles::pitch(power()), 100});
-        window->receiveMessage({0x80, key_roles::pitch(power()), 0});
-    }
 };
-
-std::vector<TestInterruptedGestures::Gesture> TestInterruptedGestures::gestures()
-{
-    return {
-        {"key held", [this] { hand->press(onKey(in(60))); }},
-        {"key held and moved on", [this] { hand->drag(onKey(in(60)), onKey(in(60)) + QPointF(2, 0)); }},
-        {"sweep", [this] { hand->drag(onKey(in(60)), onKey(in(67))); }},
-        {"preset key held", [this] { hand->press(onKey(in(61))); }},
-        {"out key held", [this] { outHand->press(onKey(out(60))); }},
-        {"power pressed", [this] { hand->press(powerSquare()); }},
-        {"sleeve held", [this] { hand->press(powerSleeve()); }},
-        {"power over a header", [this] { hand->drag(powerSleeve(), stemOf(32)); }},
-        {"power over the active header", [this] { hand->drag(powerSleeve(), stemOf(firstActive)); }},
-        {"power over nothing", [this] { hand->drag(powerSleeve(), nowhere()); }},
-        {"header held", [this] { hand->press(boxOf(25)); }},
-        {"header over a header", [this] { hand->drag(boxOf(25), stemOf(32)); }},
-        {"header over the power", [this] { hand->drag(boxOf(25), powerSleeve() + QPointF(0, 14)); }},
-        {"header over nothing", [this] { hand->drag(boxOf(25), nowhere()); }},
-        {"press beside everything",
-         [this] {
-             hand->press({4, 130});
-         }},
-        {"anchors", [this] { hand->drag(anchorGrip(), anchorGrip() + QPointF(40, 0)); }},
-    };
-}
 
 std::vector<TestInterruptedGestures::Interruption> TestInterruptedGestures::interruptions()
 {
@@ -132,54 +66,9 @@ void TestInterruptedGestures::addGesturesAnd(const char* column, const std::vect
 {
     QTest::addColumn<QString>("gesture");
     QTest::addColumn<QString>(column);
-    for (const Gesture& gesture : const_cast<TestInterruptedGestures*>(this)->gestures())
+    for (const Gesture& gesture : gestures())
         for (const char* other : others)
             QTest::addRow("%s, %s", gesture.name, other) << gesture.name << other;
-}
-
-void TestInterruptedGestures::addGestures()
-{
-    QTest::addColumn<QString>("gesture");
-    for (const Gesture& gesture : gestures())
-        QTest::newRow(gesture.name) << gesture.name;
-}
-
-void TestInterruptedGestures::begin(const QString& name)
-{
-    for (const Gesture& gesture : gestures())
-        if (name == QLatin1String(gesture.name))
-            gesture.begin();
-    QVERIFY(hand->held() || outHand->held());
-}
-
-void TestInterruptedGestures::activate() const
-{
-    window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
-}
-
-void TestInterruptedGestures::expectTheNextGesturesToWork()
-{
-    sent();
-    const int shift = int(anchors()->x()) / 17; // by as much do the white keys play lower
-    static const int below[] = {60, 59, 57};
-    QVERIFY(shift >= 0 && shift <= 2);
-    hand->click(onKey(in(60)));
-    QCOMPARE(sent(), (Messages{noteOn(below[shift]), noteOff(below[shift])}));
-    hand->drag(onKey(in(60)), onKey(in(62)));
-    hand->release();
-    QCOMPARE(sent().size(), 5);
-    outHand->click(onKey(out(60)));
-    QCOMPARE(sent(), (Messages{noteOn(60), noteOff(60)}));
-    hand->drag(boxOf(27), stemOf(34));
-    hand->release();
-    QCOMPARE(active(), 34);
-    hand->drag(powerSleeve(), stemOf(27));
-    hand->release();
-    QCOMPARE(key_roles::pitch(power()), 27);
-    hand->click(powerSquare());
-    QVERIFY(!power()->isSwitchOn());
-    QCOMPARE(unrest(), QString());
 }
 
 void TestInterruptedGestures::everyGestureByEveryInterruption_data()
@@ -203,12 +92,11 @@ void TestInterruptedGestures::everyGestureByEveryInterruption()
         other.strike();
         QCOMPARE(unrest(), QString());
         QVERIFY(sounding().isEmpty());
-        QVERIFY(shows(power(), QStringLiteral(":/Resources/Power/POWERBUTTONOn.png")));
+        QVERIFY(powerShows({"On"}));
         other.recover();
     }
-    Hand& holding = hand->held() ? *hand : *outHand;
-    holding.move(holding.place() + QPointF(20, 0)); // the hand does not know
-    holding.release();
+    holding().move(holding().place() + QPointF(20, 0)); // the hand does not know
+    holding().release();
     QCOMPARE(sent(), Messages());
     QCOMPARE(unrest(), QString());
     expectTheNextGesturesToWork();
@@ -290,7 +178,7 @@ void TestInterruptedGestures::interruptedDropSwapsNothing()
     QCOMPARE(state(), before);
     hand->release();
     QCOMPARE(state(), before);
-    QVERIFY(shows(power(), QStringLiteral(":/Resources/Power/POWERBUTTONOn.png")));
+    QVERIFY(powerShows({"On"}));
 }
 
 void TestInterruptedGestures::interruptedPowerPressDoesNotSwitch()
@@ -302,8 +190,7 @@ void TestInterruptedGestures::interruptedPowerPressDoesNotSwitch()
         QVERIFY(!power()->powerGrabbed && !power()->pressedByMouse);
         hand->release();
         QCOMPARE(power()->isSwitchOn(), switchedOn);
-        QVERIFY(shows(power(), switchedOn ? QStringLiteral(":/Resources/Power/POWERBUTTONOn.png")
-                                          : QStringLiteral(":/Resources/Power/POWERBUTTONOff.png")));
+        QVERIFY(powerShows({switchedOn ? "On" : "Off"}));
     }
 }
 
@@ -363,165 +250,12 @@ void TestInterruptedGestures::releaseOutsideTheWindow()
     emptyHeaders();
     window->setPower(true);
     begin(gesture);
-    Hand& holding = hand->held() ? *hand : *outHand;
-    holding.move(sides.value(side));
-    holding.release();
+    holding().move(sides.value(side));
+    holding().release();
     QCOMPARE(unrest(), QString());
     QVERIFY(sounding().isEmpty());
     QVERIFY(power()->isSwitchOn());
     QCOMPARE(key_roles::pitch(power()), powerKey);
-}
-
-void TestInterruptedGestures::powerOffEndsAHeaderDrag_data()
-{
-    QTest::addColumn<QString>("gesture");
-    for (const char* name :
-         {"header held", "header over a header", "header over the power", "header over nothing"})
-        QTest::newRow(name) << name;
-}
-
-void TestInterruptedGestures::powerOffEndsAHeaderDrag()
-{
-    QFETCH(QString, gesture);
-    window->setPower(true);
-    recall(25);
-    const QStringList before = state();
-    begin(gesture);
-    toggleByMidi();
-    QVERIFY(!power()->isSwitchOn());
-    QCOMPARE(unrest(), QString());
-    QVERIFY(shows(power(), QStringLiteral(":/Resources/Power/POWERBUTTONOff.png")));
-    hand->move(stemOf(34));
-    hand->release();
-    QCOMPARE(unrest(), QString());
-    QVERIFY(shows(power(), QStringLiteral(":/Resources/Power/POWERBUTTONOff.png")));
-    toggleByMidi();
-    QCOMPARE(state(), before);
-    QCOMPARE(unrest(), QString());
-}
-
-void TestInterruptedGestures::powerOffDuringAPowerDragShowsAtItsEnd()
-{
-    for (const bool switchedOn : {true, false}) {
-        window->setPower(switchedOn);
-        hand->drag(powerSleeve(), stemOf(32));
-        toggleByMidi();
-        QCOMPARE(power()->isSwitchOn(), !switchedOn);
-        hand->glideTo(nowhere());
-        hand->release();
-        QCOMPARE(power()->isSwitchOn(), !switchedOn);
-        QVERIFY(shows(power(), switchedOn ? QStringLiteral(":/Resources/Power/POWERBUTTONOff.png")
-                                          : QStringLiteral(":/Resources/Power/POWERBUTTONOn.png")));
-        QCOMPARE(unrest(), QString());
-    }
-}
-
-void TestInterruptedGestures::powerDuringAPressInTheSquare()
-{
-    hand->press(powerSquare());
-    toggleByMidi();
-    QVERIFY(power()->isSwitchOn());
-    hand->release();
-    QVERIFY(!power()->isSwitchOn()); // from what it is, not from what it was at the press
-    QCOMPARE(unrest(), QString());
-}
-
-void TestInterruptedGestures::powerOffDuringASweepEndsTheNote()
-{
-    window->setPower(true);
-    setTonic("E");
-    hand->drag(onKey(in(60)), onKey(in(62)));
-    QCOMPARE(sounding(), QSet<int>{66});
-    toggleByMidi();
-    QCOMPARE(sounding(), QSet<int>{66});
-    hand->glideTo(onKey(in(64)));
-    QCOMPARE(sounding(), QSet<int>{64});
-    hand->release();
-    QVERIFY(sounding().isEmpty());
-    QCOMPARE(unrest(), QString());
-}
-
-void TestInterruptedGestures::questionEndsTheGestureBeforeItIsAsked_data()
-{
-    addGestures();
-}
-
-void TestInterruptedGestures::questionEndsTheGestureBeforeItIsAsked()
-{
-    QFETCH(QString, gesture);
-    emptyHeaders();
-    window->setPower(true);
-    begin(gesture);
-    QString faults = QStringLiteral("not asked");
-    QSet<int> heard;
-    whenAsked([&](QMessageBox& box) {
-        faults = unrest();
-        heard = sounding();
-        box.reject();
-    });
-    QTest::keyClick(window.get(), Qt::Key_R, Qt::ControlModifier);
-    QCOMPARE(seen, 1);
-    QCOMPARE(faults, QString());
-    QVERIFY(heard.isEmpty());
-    activate();
-    Hand& holding = hand->held() ? *hand : *outHand;
-    holding.release();
-    expectTheNextGesturesToWork();
-}
-
-void TestInterruptedGestures::acceptedQuestionFindsEverythingAtHome()
-{
-    window->setPower(true);
-    recall(25);
-    hand->drag(powerSleeve(), stemOf(32));
-    whenAsked([](QMessageBox& box) {
-        for (QAbstractButton* button : box.buttons())
-            if (box.buttonRole(button) == QMessageBox::AcceptRole)
-                button->click();
-    });
-    presets().resetAll();
-    QCOMPARE(seen, 1);
-    activate();
-    hand->release();
-    QCOMPARE(key_roles::pitch(power()), 61); // where a reset puts it
-    QCOMPARE(unrest(), QString());
-}
-
-// What the hand holds on the other keyboard is no matter: the headers do not ask there.
-void TestInterruptedGestures::menuDoesNotOpenWhileSomethingIsHeld_data()
-{
-    QTest::addColumn<QString>("gesture");
-    for (const Gesture& gesture : gestures())
-        if (qstrcmp(gesture.name, "out key held") != 0)
-            QTest::newRow(gesture.name) << gesture.name;
-}
-
-void TestInterruptedGestures::menuDoesNotOpenWhileSomethingIsHeld()
-{
-    QFETCH(QString, gesture);
-    window->setPower(true);
-    begin(gesture);
-    whenMenuIsUp([](QMenu& menu) { menu.close(); });
-    Hand asking(window->ui.inKeyboardGraphicsView);
-    for (const QPointF& place : {boxOf(25), boxOf(32), boxOf(firstActive)})
-        asking.askForMenuAt(place);
-    QCOMPARE(seen, 0);
-    QVERIFY(!presets().contextHeader);
-    QVERIFY(!presets().menu->isVisible());
-    hand->release();
-    QVERIFY(sounding().isEmpty());
-}
-
-void TestInterruptedGestures::menuOpensBetweenGestures()
-{
-    window->setPower(true);
-    hand->drag(boxOf(25), nowhere());
-    hand->release();
-    whenMenuIsUp([](QMenu& menu) { menu.close(); });
-    hand->askForMenuAt(boxOf(25));
-    QCOMPARE(seen, 1);
-    QCOMPARE(presets().contextHeader, header(25));
-    QCOMPARE(unrest(), QString());
 }
 
 void TestInterruptedGestures::windowThatGoesEndsTheGesture_data()

@@ -1,13 +1,11 @@
-// The pointer on keys and on the power button without a drag: what a press and a release do, and where they
-// hit.
+// The pointer on the keys without a drag: what a press and a release do, by which button, and what they do
+// while a dialog is open.
 
 #include "StageFixture.h"
-#include "SweepModel.h"
 
-#include "MappingRule.h"
+#include "SweepModel.h"
 #include "header_pictures.h"
 #include "keys/key_pictures.h"
-#include "keys/pictures.h"
 
 #include <QtTest>
 
@@ -43,48 +41,23 @@ private slots:
     void openDialogTakesNoPress();
     void dialogThatComesUpMeanwhileLeavesTheRelease();
 
-    // Hover
-    void hoverLightsTheSquareOnly_data();
-    void hoverLightsTheSquareOnly();
-    void hoverLeavesNoLightBehind_data();
-    void hoverLeavesNoLightBehind();
-
-    // Hits
-    void everyPixelHitsTheKeyThatIsSeenThere_data();
-    void everyPixelHitsTheKeyThatIsSeenThere();
-    void everyPixelBelongsToOneKeyOnly();
-    void pressBesideTheKeysIsSilent();
-
 private:
     QPointF placeIn(int note) const { return onKey(in(note)); }
-    void addPowers() const;
-    bool showsPressed(const ResizableItem* key) const;
-    /// The button's picture of a state, with or without the light of the pointer.
-    bool showsPower(bool switchedOn, bool lit) const;
+    /// One place of each kind that a press does something at.
+    QList<QPointF> pressables() const;
+    static bool showsPressed(const ResizableItem* key);
 };
 
-void TestKeyPointer::addPowers() const
-{
-    QTest::addColumn<bool>("power");
-    QTest::newRow("power off") << false;
-    QTest::newRow("power on") << true;
-}
-
-bool TestKeyPointer::showsPressed(const ResizableItem* key) const
+bool TestKeyPointer::showsPressed(const ResizableItem* key)
 {
     const KeyShape shape = key_pictures::shapeOf(key_roles::name(key));
     return isSame(key->pixmap(),
                   key_pictures::picture(KeySheet::in, shape, KeyCell::pressed, KeyShine::none));
 }
 
-bool TestKeyPointer::showsPower(bool switchedOn, bool lit) const
+QList<QPointF> TestKeyPointer::pressables() const
 {
-    const auto load = [](const char* state) {
-        return pictures::load(QStringLiteral(":/Resources/Power/POWERBUTTON%1.png").arg(state));
-    };
-    const QPixmap plain = load(switchedOn ? "On" : "Off");
-    const QPixmap wanted = lit ? pictures::overlay(plain, load("Hover"), QRect(0, 0, 19, 82)) : plain;
-    return power()->pixmap().toImage() == wanted.toImage();
+    return {placeIn(60), placeIn(61), boxOf(25), powerSquare(), powerSleeve()};
 }
 
 void TestKeyPointer::inKeySoundsItselfWithThePowerOff()
@@ -121,10 +94,7 @@ void TestKeyPointer::whiteInKeyPlaysItsTargetWithThePowerOn()
     window->setPower(true);
     setTonic(names[tonicIndex]);
     setScale(word);
-    std::bitset<12> degrees;
-    for (int i = 0; i < 12; ++i)
-        degrees[std::size_t(i)] = word.at(i) == QLatin1Char('x');
-    for (const auto& [note, wanted] : MappingRule(tonicIndex, degrees).target) {
+    for (const auto& [note, wanted] : whiteTargets(tonicIndex, word.toStdString())) {
         hand->press(placeIn(note));
         QCOMPARE(sent(), wanted == -1 ? Messages() : Messages{noteOn(wanted)});
         QVERIFY(in(note)->isPushed); // a grey key goes down too
@@ -185,15 +155,15 @@ void TestKeyPointer::powerKeyLiesUnderTheButton_data()
 
 void TestKeyPointer::powerKeyLiesUnderTheButton()
 {
-    QFETCH(bool, power);
-    window->setPower(power);
+    QFETCH(bool, switchedOn);
+    window->setPower(switchedOn);
     const QRectF key = in(powerKey)->sceneBoundingRect();
     for (qreal y = key.top() + 20; y < key.bottom(); ++y) { // the square ends above
         hand->press({key.center().x(), y});
         QVERIFY(!in(powerKey)->isPushed);
-        QVERIFY(this->power()->mouseHeld);
+        QVERIFY(power()->mouseHeld);
         hand->release();
-        QCOMPARE(this->power()->isSwitchOn(), power);
+        QCOMPARE(power()->isSwitchOn(), switchedOn);
     }
     QCOMPARE(sent(), Messages());
     QCOMPARE(unrest(), QString());
@@ -222,8 +192,8 @@ void TestKeyPointer::outKeySoundsItself_data()
 
 void TestKeyPointer::outKeySoundsItself()
 {
-    QFETCH(bool, power);
-    window->setPower(power);
+    QFETCH(bool, switchedOn);
+    window->setPower(switchedOn);
     setTonic("E");
     for (int note = 21; note <= 108; ++note) {
         const QPixmap idle = out(note)->pixmap();
@@ -236,7 +206,7 @@ void TestKeyPointer::outKeySoundsItself()
         QVERIFY(isSame(out(note)->pixmap(), idle));
         QCOMPARE(unrest(), QString());
     }
-    QCOMPARE(this->power()->isSwitchOn(), power); // the out key of 49 is no switch
+    QCOMPARE(power()->isSwitchOn(), switchedOn); // the out key of 49 is no switch
     QCOMPARE(active(), firstActive);
 }
 
@@ -266,7 +236,7 @@ void TestKeyPointer::otherButtonsDoNothing()
         window->setPower(switchedOn);
         const QStringList before = state();
         const QPixmap picture = power()->pixmap();
-        for (const QPointF& place : {placeIn(60), placeIn(61), boxOf(25), powerSquare(), powerSleeve()}) {
+        for (const QPointF& place : pressables()) {
             hand->press(place, other);
             QVERIFY(!scene()->leftDown);
             hand->move(place + QPointF(30, 0));
@@ -329,7 +299,7 @@ void TestKeyPointer::openDialogTakesNoPress()
     window->setPower(true);
     const QStringList before = state();
     window->dialogOpen = true;
-    for (const QPointF& place : {placeIn(60), placeIn(61), boxOf(25), powerSquare(), powerSleeve()}) {
+    for (const QPointF& place : pressables()) {
         hand->press(place);
         hand->move(place + QPointF(30, 0));
         hand->release();
@@ -341,7 +311,7 @@ void TestKeyPointer::openDialogTakesNoPress()
     window->dialogOpen = false;
     QCOMPARE(sent(), Messages());
     QCOMPARE(state(), before);
-    QVERIFY(shows(power(), QStringLiteral(":/Resources/Power/POWERBUTTONOn.png")));
+    QVERIFY(powerShows({"On"}));
     hand->click(placeIn(60));
     QCOMPARE(sent(), (Messages{noteOn(60), noteOff(60)}));
 }
@@ -356,97 +326,6 @@ void TestKeyPointer::dialogThatComesUpMeanwhileLeavesTheRelease()
     window->dialogOpen = false;
     QCOMPARE(sent(), Messages{noteOff(60)});
     QCOMPARE(unrest(), QString());
-}
-
-void TestKeyPointer::hoverLightsTheSquareOnly_data()
-{
-    addPowers();
-}
-
-void TestKeyPointer::hoverLightsTheSquareOnly()
-{
-    QFETCH(bool, power);
-    window->setPower(power);
-    const QPointF corner = this->power()->pos();
-    const QRect square(3, 3, 13, 25);
-    QVERIFY(showsPower(power, false));
-    for (int x = 0; x < 19; ++x)
-        for (int y = 0; y < 34; ++y) {
-            hand->move(corner + QPointF(x, y));
-            const bool lit = QRectF(square).contains(QPointF(x, y));
-            QCOMPARE(this->power()->powerGrabbed, lit);
-            if (x % 3 == 1 || y % 9 == 1)
-                QVERIFY(showsPower(power, lit));
-        }
-    QCOMPARE(this->power()->isSwitchOn(), power);
-}
-
-void TestKeyPointer::hoverLeavesNoLightBehind_data()
-{
-    addPowers();
-}
-
-void TestKeyPointer::hoverLeavesNoLightBehind()
-{
-    QFETCH(bool, power);
-    window->setPower(power);
-    for (const QPointF& away : {powerSleeve(), QPointF(288 - 40, 30), placeIn(60), QPointF(297, -3)}) {
-        hand->move(powerSquare());
-        QVERIFY(showsPower(power, true));
-        hand->move(away);
-        QVERIFY(showsPower(power, false));
-    }
-}
-
-void TestKeyPointer::everyPixelHitsTheKeyThatIsSeenThere_data()
-{
-    QTest::addColumn<bool>("input");
-    QTest::addColumn<int>("y");
-    for (const bool input : {true, false})
-        for (const int y : {0, 30, 63, 64, 98})
-            QTest::addRow("%s, row %d", input ? "in" : "out", y) << input << y;
-}
-
-void TestKeyPointer::everyPixelHitsTheKeyThatIsSeenThere()
-{
-    QFETCH(bool, input);
-    QFETCH(int, y);
-    Hand& onSide = input ? *hand : *outHand;
-    const QPointF corner = (input ? in(21) : out(21))->pos();
-    for (int x = 0; x < 52 * 17; ++x) {
-        const QPointF place = corner + QPointF(x, y);
-        if (input && power()->sceneBoundingRect().contains(place))
-            continue;
-        const int note = keySeenAt(x, y);
-        onSide.click(place);
-        const Messages wanted{noteOn(note), noteOff(note)};
-        const Messages got = sent();
-        QVERIFY2(got == wanted, qPrintable(QStringLiteral("x %1: key %2").arg(x).arg(note)));
-    }
-}
-
-// A sweep asks the keys themselves, whichever lies on top.
-void TestKeyPointer::everyPixelBelongsToOneKeyOnly()
-{
-    for (const int y : {0, 63, 64, 98})
-        for (int x = 0; x < 52 * 17; ++x) {
-            const QPointF place = in(21)->pos() + QPointF(x, y);
-            QSet<int> owners;
-            for (int note = 21; note <= 108; ++note)
-                if (in(note)->contains(in(note)->mapFromScene(place)))
-                    owners.insert(note);
-            QCOMPARE(owners, QSet<int>{keySeenAt(x, y)});
-        }
-}
-
-void TestKeyPointer::pressBesideTheKeysIsSilent()
-{
-    for (const QPointF& place : {QPointF(7, 100), QPointF(892, 100), QPointF(60, 45), QPointF(-14, 100)}) {
-        hand->drag(place, placeIn(60)); // nothing was pressed: nothing is swept
-        hand->release();
-        QCOMPARE(unrest(), QString());
-    }
-    QCOMPARE(sent(), Messages());
 }
 
 QTEST_MAIN(TestKeyPointer)
