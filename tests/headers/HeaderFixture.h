@@ -73,7 +73,7 @@ protected:
 
     std::unique_ptr<MainWnd> window;
     RecordingPort* port = nullptr; // owned by the window
-    int seen = 0; // menus and questions
+    int seen = 0;                  // menus and questions
 
 private:
     template <typename Widget>
