@@ -16,6 +16,14 @@ namespace {
 constexpr int sweepReach = 2;           // semitones looked at on each side
 constexpr qreal atRest = 0, inHand = 1; // z
 constexpr qreal lowestHome = 16;        // x of the leftmost flag, one pixel beyond where a drag may go
+constexpr qreal dragDistance = 4;       // more than a drop target is looked for around the pointer
+
+/// A click shakes by a pixel or two, and the next flag is as near as that.
+bool isClick(const QGraphicsSceneMouseEvent& event)
+{
+    const QPointF way = event.scenePos() - event.buttonDownScenePos(Qt::LeftButton);
+    return way.manhattanLength() < dragDistance;
+}
 
 /// The in key at a place of the scene, looked for close to a pitch; null if none of them is there.
 ResizableItem* findKeyNear(int pitch, QPointF place)
@@ -70,8 +78,9 @@ void ResizableItem::dragPower(const QGraphicsSceneMouseEvent& event)
 {
     PowerItem* power = mainWnd->powerItem;
     if (!powerGrabbed) {
-        power->showDrop();
         dragAlong(event);
+        if (dragStarted)
+            power->showDrop();
     } else if (PowerItem::isOnButton(event.pos())) {
         power->showPressed();
     } else {
@@ -82,7 +91,7 @@ void ResizableItem::dragPower(const QGraphicsSceneMouseEvent& event)
 void ResizableItem::dragAlong(const QGraphicsSceneMouseEvent& event)
 {
     auto* stage = qobject_cast<DiagramScene*>(scene());
-    if (!stage)
+    if (!stage || (!dragStarted && isClick(event)))
         return;
     if (!dragStarted) {
         dragStarted = true;

@@ -109,7 +109,7 @@ void ResizableItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
         return;
     }
     QGraphicsPixmapItem::mouseDoubleClickEvent(event); // a press like any other
-    if (mouseHeld && key_roles::isHeader(this))
+    if (mouseHeld && event->button() == Qt::LeftButton && key_roles::isHeader(this))
         setFlag(ItemIsMovable, false);
 }
 
