@@ -17,11 +17,11 @@ void Hand::press(QPointF place, Qt::MouseButton button)
     send(QEvent::MouseButtonPress, button);
 }
 
-void Hand::pressAgain(QPointF place)
+void Hand::pressAgain(QPointF place, Qt::MouseButton button)
 {
     where = place;
-    buttons |= Qt::LeftButton;
-    send(QEvent::MouseButtonDblClick, Qt::LeftButton);
+    buttons |= button;
+    send(QEvent::MouseButtonDblClick, button);
 }
 
 void Hand::move(QPointF place)

@@ -16,7 +16,7 @@ public:
 
     void press(QPointF place, Qt::MouseButton button = Qt::LeftButton);
     /// The second press of a double click.
-    void pressAgain(QPointF place);
+    void pressAgain(QPointF place, Qt::MouseButton button = Qt::LeftButton);
     void move(QPointF place);
     /// Lets a button go where the hand is.
     void release(Qt::MouseButton button = Qt::LeftButton);

@@ -25,6 +25,9 @@ private slots:
     void pictureDoesNotJump();
     void dragStopsAtBothEnds();
     void dragOffsetIsTakenOff();
+    void shakyClickRecallsAndDragsNothing_data();
+    void shakyClickRecallsAndDragsNothing();
+    void doubleClickOfAnotherButtonLeavesTheDragAlone();
     void secondPressOfADoubleClickRecallsAndDoesNotDrag();
     void pressAfterADoubleClickDragsAgain();
 };
@@ -166,6 +169,51 @@ void TestHeaderDrag::dragOffsetIsTakenOff()
     hand->move({400, 130});
     QCOMPARE(header(25)->x(), 400.0 - 1 + 20);
     hand->release();
+}
+
+void TestHeaderDrag::shakyClickRecallsAndDragsNothing_data()
+{
+    QTest::addColumn<int>("key");
+    for (const int key : {22, 51, 54, 56, 61, 106})
+        QTest::addRow("flag %d", key) << key;
+}
+
+// A move of one pixel at a flag's edge swapped it with its neighbour.
+void TestHeaderDrag::shakyClickRecallsAndDragsNothing()
+{
+    QFETCH(int, key);
+    const HeaderItem* flag = header(key);
+    const QRect box = flag->boundingRect().toRect();
+    for (int x = box.left(); x <= box.right(); ++x)
+        for (int y = box.top(); y <= box.bottom(); y += 6) {
+            const QPointF place(x, y);
+            // A view asks for what the pixel touches, not for what lies under a point.
+            if (scene()->items(QRectF(flag->homePos + place, QSizeF(1, 1))).value(0) != flag)
+                continue;
+            for (const int shake : {-3, 3}) {
+                recall(63);
+                hand->press(flag->homePos + place);
+                hand->move(hand->place() + QPointF(shake, 0));
+                QCOMPARE(flag->pos() + flag->offset(), flag->homePos);
+                hand->release();
+                QCOMPARE(active(), key);
+                QCOMPARE(key_roles::pitch(power()), powerKey);
+            }
+        }
+    QCOMPARE(unrest(), QString());
+}
+
+void TestHeaderDrag::doubleClickOfAnotherButtonLeavesTheDragAlone()
+{
+    dragHeaderTo(25, nowhere());
+    hand->press(nowhere(), Qt::RightButton);
+    hand->release(Qt::RightButton);
+    hand->pressAgain(nowhere(), Qt::RightButton);
+    hand->release(Qt::RightButton);
+    hand->move(nowhere() + QPointF(100, 0));
+    QCOMPARE(header(25)->x(), nowhere().x() + 99);
+    hand->release();
+    QCOMPARE(unrest(), QString());
 }
 
 void TestHeaderDrag::secondPressOfADoubleClickRecallsAndDoesNotDrag()

@@ -16,6 +16,7 @@ private slots:
     void hoverLightsTheSquareOnly();
     void hoverLeavesNoLightBehind_data();
     void hoverLeavesNoLightBehind();
+    void hoverLightsAgainAfterASwitch();
 
     // Hits
     void everyPixelHitsTheKeyThatIsSeenThere_data();
@@ -71,6 +72,16 @@ void TestPointerHits::hoverLeavesNoLightBehind()
         QVERIFY(showsPower(switchedOn, true));
         hand->move(away);
         QVERIFY(showsPower(switchedOn, false));
+    }
+}
+
+void TestPointerHits::hoverLightsAgainAfterASwitch()
+{
+    for (const bool switchedOn : {true, false}) {
+        hand->move(powerSquare());
+        window->switchPower();
+        hand->move(powerSquare() + QPointF(1, 0));
+        QVERIFY(showsPower(switchedOn, true));
     }
 }
 

@@ -16,6 +16,8 @@ private slots:
     void pictureDoesNotJump();
     void dragStopsAtBothEnds();
     void dragOffsetIsTakenOff();
+    void shakyClickDragsNothing_data();
+    void shakyClickDragsNothing();
     void buttonInTheHandLooksSo_data();
     void buttonInTheHandLooksSo();
     void dragAfterwardsIsAtRest_data();
@@ -100,6 +102,29 @@ void TestPowerDrag::dragOffsetIsTakenOff()
     QCOMPARE(unrest(), QString());
 }
 
+void TestPowerDrag::shakyClickDragsNothing_data()
+{
+    addPowers();
+}
+
+// The flag beside it is nearer than the hand shakes.
+void TestPowerDrag::shakyClickDragsNothing()
+{
+    QFETCH(bool, switchedOn);
+    window->setPower(switchedOn);
+    const QStringList before = state();
+    for (int x = 0; x < 19; ++x)
+        for (const int shake : {-3, 3}) {
+            hand->press(power()->pos() + QPointF(x, 40));
+            hand->move(hand->place() + QPointF(shake, 0));
+            QVERIFY(powerShows({switchedOn ? "On" : "Off"}));
+            hand->release();
+            QCOMPARE(key_roles::pitch(power()), powerKey);
+        }
+    QCOMPARE(state(), before);
+    QCOMPARE(unrest(), QString());
+}
+
 void TestPowerDrag::buttonInTheHandLooksSo_data()
 {
     addPowers();
@@ -111,7 +136,7 @@ void TestPowerDrag::buttonInTheHandLooksSo()
     window->setPower(switchedOn);
     hand->press(powerSleeve());
     QCOMPARE(power()->zValue(), 0.0);
-    for (const QPointF& place : {powerSleeve() + QPointF(1, 0), nowhere(), stemOf(32), nowhere()}) {
+    for (const QPointF& place : {powerSleeve() + QPointF(4, 0), nowhere(), stemOf(32), nowhere()}) {
         hand->move(place);
         QVERIFY(powerShows({switchedOn ? "On_Drop" : "Off_Drop"}));
         QCOMPARE(power()->zValue(), 1.0);

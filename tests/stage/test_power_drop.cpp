@@ -128,6 +128,7 @@ void TestPowerDrop::learnModeHasNoTargets()
     QCOMPARE(power()->x(), qreal(int(stemOf(32).x() - 1)));
     hand->release();
     window->learnTonic = false;
+    QCOMPARE(header(32)->status(), header_deactive);
     QCOMPARE(records(), before);
     QCOMPARE(unrest(), QString());
 }
