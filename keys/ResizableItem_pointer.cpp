@@ -28,7 +28,7 @@ void ResizableItem::hoverMoveEvent(QGraphicsSceneHoverEvent* event)
         const bool onButton = PowerItem::isOnButton(event->pos());
         if (onButton) // each time: a key may have switched meanwhile
             mainWnd->powerItem->showHover();
-        else if (!onButton && powerGrabbed)
+        else if (powerGrabbed)
             mainWnd->powerItem->showSwitch(mainWnd->isPowerOn());
         powerGrabbed = onButton;
     }

@@ -5,16 +5,20 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-/// Lets the debug lines of the headers through as long as it lives.
+/// Lets the debug lines of a room, the headers unless told otherwise, through as long as it lives.
 class HeaderLog
 {
 public:
-    HeaderLog() { category.setEnabled(QtDebugMsg, true); }
+    explicit HeaderLog(const QLoggingCategory& room = lcHeaders())
+        : category(const_cast<QLoggingCategory&>(room))
+    {
+        category.setEnabled(QtDebugMsg, true);
+    }
     ~HeaderLog() { category.setEnabled(QtDebugMsg, before); }
     Q_DISABLE_COPY(HeaderLog)
 
 private:
-    QLoggingCategory& category = const_cast<QLoggingCategory&>(lcHeaders());
+    QLoggingCategory& category;
     const bool before = category.isDebugEnabled();
 };
 
