@@ -116,6 +116,7 @@ void MainWnd::connectSignals()
             &MainWnd::inPortSelectionChange);
     connect(centerScreen->outPortList, &QListWidget::itemSelectionChanged, this,
             &MainWnd::outPortSelectionChange);
+    connect(this, &MainWnd::specialKeyPressed, this, &MainWnd::clickFocusedButton);
     connect(&midiService(), &MidiService::stopped, this, &MainWnd::midiServiceStopped);
 }
 
@@ -140,6 +141,7 @@ void MainWnd::setPower(bool on)
     powerItem->setAllBlackBlue(on);
     setBackgroundSwitches(on);
     headerController->setHeadersStatus(on);
+    setLibraryPower(on);
 }
 
 void MainWnd::switchPower()
@@ -160,6 +162,16 @@ void MainWnd::setBackgroundSwitches(bool on)
     }
     for (QGraphicsItem* item : qAsConst(selectorItems))
         item->setVisible(on);
+}
+
+// What is remembered is taken when the power goes off, not while it stays off.
+void MainWnd::setLibraryPower(bool on)
+{
+    const bool wasOn = centerScreen->isLibraryAccessible();
+    centerScreen->setLibraryAccess(on);
+    if (!on && wasOn)
+        centerScreen->libraryRemembered = centerScreen->libraryOpen;
+    showLibraryScreen(on && centerScreen->libraryRemembered);
 }
 
 void MainWnd::done(int result)

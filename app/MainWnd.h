@@ -45,6 +45,8 @@ public:
     /// Toggles the power, unless a dialog is open.
     void switchPower();
     void setBackgroundSwitches(bool on);
+    /// The library sleeps with the power and comes back with it as the user left it.
+    void setLibraryPower(bool on);
     /// Asks before something is lost. True if the user pressed the button of that text; the other is
     /// "Cancel".
     [[nodiscard]] bool confirmAlert(const QString& text, const QString& accept);
@@ -59,6 +61,10 @@ public:
     // Centre screen (MainWnd_center.cpp)
     /// Keeps the stacking of the two large hit areas in step with the centre screen.
     void didCenterSceneChange();
+    /// Opens the library, or goes back to the scene before it.
+    void showLibraryScreen(bool show);
+    /// Gives the keyboard to the input view.
+    void focusInKeyboard();
 
     // Presets and library (MainWnd_presets.cpp)
     /// Makes the preset of a black key: `keyNumber` is its MIDI note number, `headerIndex` the row of
@@ -161,6 +167,11 @@ public slots:
     void midiServiceStopped();
 
     void on_buttonMIDIinOut_clicked(bool checked);
+    void on_buttonCredits_clicked(bool checked);
+    void on_buttonManual_clicked();
+    void on_buttonExport_clicked();
+    void on_buttonImport_clicked();
+    void on_buttonReset_clicked();
     void on_scene1Button_clicked();
     void on_scene2Button_clicked();
     void on_scene34TopButton_clicked();
@@ -192,6 +203,7 @@ private:
     void wireKeys();
     void fillSceneIn();
     void createHeaders();
+    [[nodiscard]] bool takeLibraryTo(const QString& word);
     void fillSceneOut();
     void createAnchorIN();
     void createAnchorOUT();
@@ -204,8 +216,15 @@ private:
     void placeChildren();
 
     // Centre screen (MainWnd_center.cpp)
+    void createGame();
     void lowerHitAreas();
+    void raiseWayBack();
+    void raiseButtons();
     void backToDefaultScene();
+    void openPage(const char* address);
+    void clickFocusedButton(int key);
+    void toggleLibrary();
+    void openPorts();
 
     // Scenes (MainWnd_scenes.cpp, MainWnd_selectors.cpp)
     DiagramScene* createKeyScene(const QString& side, const QRectF& rectangle, QGraphicsView* view);
@@ -225,9 +244,8 @@ private:
     [[nodiscard]] RtMidiIn* openIn(int row, const QString& name) const;
     [[nodiscard]] RtMidiOut* openOut(int row, const QString& name) const;
     template <typename Port, typename Open>
-    [[nodiscard]] bool followRow(const QListWidgetItem* item, Port*& port, const Open& open);
+    [[nodiscard]] bool followRow(QListWidgetItem* item, Port*& port, const Open& open);
     void alertPortError(const RtMidiError& error);
-    void focusInKeyboard();
 
     /// A child and its x in the form; it moves by `halves` halves of the width beyond the form's own.
     struct Place

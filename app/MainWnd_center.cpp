@@ -2,14 +2,52 @@
 
 #include "app/MainWnd.h"
 
+#include "app/vendor.h"
+#include "keys/PowerItem.h"
 #include "keys/pictures.h"
+#include "screen/CategoryListWidget.h"
 #include "screen/CenterScreen.h"
+#include "screen/LibraryView.h"
+#include "screen/TicTacToe.h"
+
+#include <QDesktopServices>
+#include <QGraphicsProxyWidget>
+#include <QPropertyAnimation>
+#include <QUrl>
+
+namespace {
+
+const QRectF gamePlace(700, 32, 66, 62); // in the scene
+constexpr int gameAngle = 8;             // degrees, about the top left corner
+
+} // namespace
 
 void MainWnd::lowerHitAreas()
 {
     for (QWidget* area : {ui.scene1Button, ui.scene2Button, ui.scene34TopButton, ui.scene34LeftButton,
                           ui.scene4RightButton, ui.scene3RightButton})
         area->lower();
+}
+
+// The edges of the display lead back to the default scene.
+void MainWnd::raiseWayBack()
+{
+    if (centerScreen->currentScene == CenterScreen::scene_ports)
+        ui.scene3RightButton->raise();
+    else if (centerScreen->currentScene == CenterScreen::scene_credits)
+        ui.scene4RightButton->raise();
+    else
+        return;
+    ui.scene34TopButton->raise();
+    raiseButtons();
+}
+
+// A button that shows always means itself, whatever hit area reaches over it.
+void MainWnd::raiseButtons()
+{
+    for (QWidget* button : {ui.buttonMIDIinOut, ui.buttonCredits, ui.buttonManual, ui.buttonExport,
+                            ui.buttonImport, ui.buttonReset})
+        button->raise();
 }
 
 void MainWnd::didCenterSceneChange()
@@ -31,6 +69,7 @@ void MainWnd::didCenterSceneChange()
     default:
         break;
     }
+    raiseButtons();
 }
 
 void MainWnd::createSceneCenter()
@@ -43,25 +82,68 @@ void MainWnd::createSceneCenter()
     ui.about->setHtml(CenterScreen::getMainTextData(
                           QStringLiteral(":/Resources/CenterScreen/MainCenterScreenTextData.html"))
                           .trimmed());
+    centerScreen->creditLines =
+        CenterScreen::parseCreditFile(QStringLiteral(":/Resources/CreditsScreen/CreditsData.txt"));
     ui.centerLogo->setPixmap(pictures::load(QStringLiteral(":/Resources/CenterScreen/Sorvane-Logo-CM.png")));
     const QString style =
         CenterScreen::getMainTextData(QStringLiteral(":/Resources/CenterScreen/button.qss"));
+    const QList<QPushButton*> pushButtons = findChildren<QPushButton*>();
+    for (QPushButton* button : pushButtons)
+        button->setAutoDefault(false);
     for (QPushButton* button : {ui.buttonMIDIinOut, ui.buttonCredits, ui.buttonManual, ui.buttonExport,
-                                ui.buttonImport, ui.buttonReset}) {
+                                ui.buttonImport, ui.buttonReset})
         button->setStyleSheet(style);
-        // Only the ports have a page so far.
-        button->setEnabled(button == ui.buttonMIDIinOut);
-    }
+    for (QPushButton* button : {ui.buttonExport, ui.buttonImport, ui.buttonReset})
+        button->setEnabled(true);
     centerScreen->addMidiPortsListView();
+    centerScreen->addLibraryView();
     rememberPlaces();
+    ui.buttonMIDIinOut->setChecked(false);
+    ui.buttonCredits->setChecked(false);
     lowerHitAreas();
     centerScreen->setSceneDefault();
+    createGame();
+}
+
+void MainWnd::createGame()
+{
+    auto* game = new TicTacToe; // the proxy's, which is the scene's
+    game->setState(QStringLiteral("---------"));
+    game->setStyleSheet(QStringLiteral("background-color: transparent"));
+    game->setMinimumSize(gamePlace.size().toSize()); // its size hint is larger
+    QGraphicsProxyWidget* proxy = ui.centerGraphicsView->scene()->addWidget(game);
+    proxy->setGeometry(gamePlace);
+    auto* turn = new QPropertyAnimation(proxy, "rotation");
+    turn->setDuration(0);
+    turn->setStartValue(0);
+    turn->setEndValue(gameAngle);
+    turn->setEasingCurve(QEasingCurve::Linear);
+    turn->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void MainWnd::showLibraryScreen(bool show)
+{
+    ui.buttonMIDIinOut->setChecked(false);
+    ui.buttonCredits->setChecked(false);
+    lowerHitAreas();
+    if (show) {
+        centerScreen->setSceneLibrary();
+        return;
+    }
+    const bool listHadFocus = centerScreen->libraryOpen && !ui.inKeyboardGraphicsView->hasFocus();
+    ui.scene1Button->raise();
+    ui.scene2Button->raise();
+    centerScreen->setScenePrevious();
+    raiseWayBack();
+    if (listHadFocus)
+        focusInKeyboard();
 }
 
 void MainWnd::backToDefaultScene()
 {
     ui.buttonMIDIinOut->setChecked(false);
     ui.buttonCredits->setChecked(false);
+    lowerHitAreas();
     centerScreen->setSceneDefault();
 }
 
@@ -71,14 +153,55 @@ void MainWnd::on_buttonMIDIinOut_clicked(bool checked)
     ui.buttonExport->setChecked(false);
     lowerHitAreas();
     if (checked) {
-        ui.scene3RightButton->raise();
-        ui.scene34TopButton->raise();
         centerScreen->setSceneMIDIinOut();
+        raiseWayBack();
     } else {
         ui.scene1Button->raise();
         centerScreen->setSceneDefault();
     }
     focusInKeyboard();
+}
+
+void MainWnd::on_buttonCredits_clicked(bool checked)
+{
+    ui.buttonMIDIinOut->setChecked(false);
+    ui.buttonExport->setChecked(false);
+    lowerHitAreas();
+    if (checked) {
+        centerScreen->setSceneCredits();
+        raiseWayBack();
+    } else {
+        ui.scene1Button->raise();
+        centerScreen->setSceneDefault();
+    }
+    focusInKeyboard();
+}
+
+void MainWnd::openPage(const char* address)
+{
+    backToDefaultScene();
+    QDesktopServices::openUrl(QUrl(QString::fromLatin1(address)));
+    focusInKeyboard();
+}
+
+void MainWnd::on_buttonManual_clicked()
+{
+    openPage(vendor::site);
+}
+
+void MainWnd::on_buttonExport_clicked()
+{
+    openPage(vendor::manual);
+}
+
+void MainWnd::on_buttonImport_clicked()
+{
+    openPage(vendor::facebook);
+}
+
+void MainWnd::on_buttonReset_clicked()
+{
+    openPage(vendor::youtube);
 }
 
 void MainWnd::on_scene1Button_clicked()
@@ -109,4 +232,30 @@ void MainWnd::on_scene3RightButton_clicked()
 void MainWnd::on_scene4RightButton_clicked()
 {
     backToDefaultScene();
+}
+
+// The window's filter swallows Enter, and Return clicks no button that is not the default one.
+void MainWnd::clickFocusedButton(int key)
+{
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    if (key != Qt::Key_Escape && !dialogOpen && button && button->parent() == this && button->hasFocus())
+        button->click();
+}
+
+void MainWnd::openPorts()
+{
+    if (centerScreen->currentScene != CenterScreen::scene_ports || centerScreen->libraryOpen) {
+        ui.buttonMIDIinOut->setChecked(false);
+        ui.buttonMIDIinOut->click();
+    }
+    centerScreen->inPortList->setFocus(Qt::ShortcutFocusReason);
+}
+
+void MainWnd::toggleLibrary()
+{
+    if (!isPowerOn())
+        return;
+    showLibraryScreen(!centerScreen->libraryOpen);
+    if (centerScreen->libraryOpen)
+        centerScreen->libraryView()->categories->setFocus(Qt::ShortcutFocusReason);
 }

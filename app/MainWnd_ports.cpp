@@ -6,6 +6,7 @@
 #include "app/connecter.h"
 #include "library/SettingsStore.h"
 #include "logging/categories.h"
+#include "screen/AlertWidget.h"
 #include "screen/CenterScreen.h"
 
 #include <QThreadPool>
@@ -72,9 +73,15 @@ QString MainWnd::portErrorText(const QString& reason)
         .arg(reason);
 }
 
+// Kept: the alert does not wait for its button and goes with this function. The row's tool tip and the log
+// keep the reason.
 void MainWnd::alertPortError(const RtMidiError& error)
 {
-    qCWarning(lcApp, "%s", qUtf8Printable(portErrorText(QString::fromStdString(error.getMessage()))));
+    const QString text = portErrorText(QString::fromStdString(error.getMessage()));
+    qCWarning(lcApp, "%s", qUtf8Printable(text));
+    AlertWidget alert(QString(), text, QStringLiteral("  OK  "), QString(), alert_error, this);
+    alert.resize(size());
+    alert.show();
 }
 
 void MainWnd::focusInKeyboard()
@@ -130,7 +137,7 @@ RtMidiOut* MainWnd::openOut(int row, const QString& name) const
 // False if the row's port was open already and stays so. A row that fails stays selected with a null slot, so
 // the next change of the selection tries it again. Without any service there is nothing to try.
 template <typename Port, typename Open>
-bool MainWnd::followRow(const QListWidgetItem* item, Port*& port, const Open& open)
+bool MainWnd::followRow(QListWidgetItem* item, Port*& port, const Open& open)
 {
     const bool selected = isRowSelected(item);
     if (selected && port)
@@ -140,9 +147,11 @@ bool MainWnd::followRow(const QListWidgetItem* item, Port*& port, const Open& op
     } else if (midiService().isAvailable()) {
         try {
             port = open();
+            item->setToolTip(item->text());
         } catch (const RtMidiError& error) {
             alertPortError(error);
             port = nullptr;
+            item->setToolTip(item->text() + QLatin1Char('\n') + QString::fromStdString(error.getMessage()));
         }
     }
     return true;
@@ -150,7 +159,7 @@ bool MainWnd::followRow(const QListWidgetItem* item, Port*& port, const Open& op
 
 bool MainWnd::applyInRow(int row)
 {
-    const QListWidgetItem* item = centerScreen->inPortList->item(row);
+    QListWidgetItem* item = centerScreen->inPortList->item(row);
     const QString name = centerScreen->getInPort(row);
     if (!followRow(item, inPorts[row], [&] { return openIn(row, name); }))
         return false;
@@ -160,7 +169,7 @@ bool MainWnd::applyInRow(int row)
 
 bool MainWnd::applyOutRow(int row)
 {
-    const QListWidgetItem* item = centerScreen->outPortList->item(row);
+    QListWidgetItem* item = centerScreen->outPortList->item(row);
     const QString name = centerScreen->getOutPort(row);
     if (!followRow(item, outPorts[row], [&] { return openOut(row, name); }))
         return false;

@@ -9,9 +9,8 @@
 #include "keys/key_roles.h"
 #include "library/default_tables.h"
 #include "logging/categories.h"
-
-#include <QMessageBox>
-#include <QScopedValueRollback>
+#include "screen/AlertWidget.h"
+#include "screen/CenterScreen.h"
 
 #include <algorithm>
 
@@ -20,6 +19,7 @@ namespace {
 constexpr int octaves = 7;
 constexpr int octaveKeys = 12, octaveWidth = 119; // seven white keys
 constexpr int firstActiveKey = 63;
+const QLatin1String allOff("xooooooooooo"); // no scale at all
 
 // The flags of one octave; boxes stand in two rows so that they do not touch:
 //       [F#]  [G#] [A#]
@@ -79,25 +79,37 @@ void MainWnd::createHeaderItem(const QString& name, int keyNumber, int headerInd
     header->setStatus(status);
 }
 
+// A played note comes by here: the browser is only told what it should show, and follows later.
 void MainWnd::checkScaleMatches(bool)
 {
     if (!centerScreen || !headerController || !scaleController)
         return; // still under construction
     const QString word = static_cast<ScaleKeyController*>(scaleController)->scaleModifier();
     if (word.isEmpty())
-        return;
+        return centerScreen->showExclamationMark(false);
     if (headerController->activeHeader)
         headerController->activeHeader->updateScenic();
+    const bool placed = takeLibraryTo(word);
+    const bool known = placed && library.containsScale(word, DatabaseLibrary::LibraryRole);
+    centerScreen->showExclamationMark(!known && word != allOff);
+    if (centerScreen->libraryOpen)
+        centerScreen->updateSceneDescr(word);
+    centerScreen->updateBrowser();
+}
+
+bool MainWnd::takeLibraryTo(const QString& word)
+{
     const QString current = library.currentCategory();
     const int index = library.indexOfScaleFromCategory(current, word, 0);
     library.setCurrentScaleIndex(current, index);
     if (index >= 0)
-        return;
+        return true;
     const QList<QString> others = library.findCategoriesWithScale(word);
     if (others.isEmpty())
-        return;
+        return false;
     library.setCurrentCategory(others.first());
     library.setCurrentScaleIndex(others.first(), library.indexOfScaleFromCategory(others.first(), word, 0));
+    return true;
 }
 
 bool MainWnd::findPowerItemPosition(QPointF pos)
@@ -121,18 +133,6 @@ bool MainWnd::findPowerItemPosition(QPointF pos)
 
 bool MainWnd::confirmAlert(const QString& text, const QString& accept)
 {
-    QMessageBox box(QMessageBox::Warning, QStringLiteral("Sorvane"), text, QMessageBox::NoButton, this);
-    const QAbstractButton* acceptButton = box.addButton(accept, QMessageBox::AcceptRole);
-    box.setDefaultButton(box.addButton(tr("Cancel"), QMessageBox::RejectRole));
-    // The window's filter swallows these keys before the box can see them.
-    connect(this, &MainWnd::specialKeyPressed, &box, [&box](int key) {
-        if (key == Qt::Key_Escape)
-            box.reject();
-        else if (auto* button = qobject_cast<QAbstractButton*>(box.focusWidget()))
-            button->click();
-    });
-    endGestures();
-    const QScopedValueRollback<bool> open(dialogOpen, true);
-    box.exec();
-    return box.clickedButton() == acceptButton;
+    AlertWidget alert(QString(), text, accept, tr("Cancel"), alert_warning, this);
+    return alert.exec() == 1;
 }

@@ -4,7 +4,9 @@
 
 #include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
+#include "screen/AbstractListWidget.h"
 #include "screen/CenterScreen.h"
+#include "screen/LibraryView.h"
 
 #include <QKeyEvent>
 
@@ -22,12 +24,29 @@ bool isTouch(QEvent::Type type)
            type == QEvent::TouchCancel;
 }
 
+/// The list that a mouse button concerns because a drag of its rows is under way; else null. Mouse events
+/// come to a list's viewport.
+AbstractListWidget* draggingList(QObject* object, QEvent::Type type)
+{
+    if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease)
+        return nullptr;
+    auto* list = qobject_cast<AbstractListWidget*>(object);
+    if (!list)
+        list = qobject_cast<AbstractListWidget*>(object->parent());
+    return list && list->isDragging() ? list : nullptr;
+}
+
 } // namespace
 
 bool MainWnd::eventFilter(QObject* object, QEvent* event)
 {
     if (isTouch(event->type())) {
         event->ignore();
+        return true;
+    }
+    if (AbstractListWidget* list = draggingList(object, event->type())) {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        list->dragButton(*mouse, mouse->localPos().toPoint());
         return true;
     }
     if (event->type() == QEvent::KeyPress && filterKeyPress(event))
@@ -53,12 +72,15 @@ void MainWnd::createShortcuts()
         if (powerItem->isSwitchOn())
             headerController->setActiveHeaderNext();
     });
+    add("Ctrl+M", [this] { openPorts(); });
+    add("Ctrl+L", [this] { toggleLibrary(); });
 }
 
 bool MainWnd::filterKeyPress(QEvent* event)
 {
     const auto* press = static_cast<QKeyEvent*>(event);
     const int key = press->key();
+    const bool inDialog = dialogOpen;
     if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape)
         emit specialKeyPressed(key);
     if (key == Qt::Key_Space) {
@@ -67,6 +89,10 @@ bool MainWnd::filterKeyPress(QEvent* event)
             switchPower();
         return true;
     }
+    // A dialog has had it; what lies below must not see it too, not even the field that the dialog leaves.
+    if (inDialog && key == Qt::Key_Return && press->modifiers() == Qt::NoModifier &&
+        !QApplication::activePopupWidget())
+        return true;
     // Kept: the main Return key is not among them.
     if (key != Qt::Key_Enter && key != Qt::Key_Escape)
         return false;
@@ -98,6 +124,9 @@ void MainWnd::rememberPlaces()
                                                           ui.versionLabel,
                                                           centerScreen->inPortList,
                                                           centerScreen->outPortList})
+        places.push_back({child, child->x(), 1});
+    const QList<QWidget*> libraryWidgets = centerScreen->libraryView()->widgets();
+    for (QWidget* child : libraryWidgets)
         places.push_back({child, child->x(), 1});
     setMinimumSize(formWidth, stageHeight);
     setMaximumSize(stageWidth, stageHeight);

@@ -6,5 +6,8 @@ namespace vendor {
 inline constexpr char organisation[] = "Sorvane";
 inline constexpr char organisationDomain[] = "sorvane.example";
 inline constexpr char site[] = "https://sorvane.example/";
+inline constexpr char manual[] = "https://sorvane.example/sorvane-manual.pdf";
+inline constexpr char facebook[] = "https://facebook.example/sorvane";
+inline constexpr char youtube[] = "https://youtube.example/sorvane";
 
 } // namespace vendor

@@ -6,36 +6,15 @@
 #include "headers/selector_access.h"
 #include "keys/PowerItem.h"
 #include "keys/ScaleKeyController.h"
+#include "keys/StageMenu.h"
 #include "keys/TonicKeyController.h"
 
-#include <QFile>
 #include <QGraphicsSceneContextMenuEvent>
-#include <QMenu>
 
 using namespace selector_access;
 
-namespace {
-
-QString menuStyle()
+HeaderController::HeaderController(QWidget* window) : QObject(window), menu(new StageMenu(window))
 {
-    QFile file(QStringLiteral(":/Resources/Headers/menu.qss"));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-} // namespace
-
-HeaderController::HeaderController(QWidget* window) : QObject(window), menu(new QMenu(window))
-{
-    menu->setStyleSheet(menuStyle());
-    // The window's filter swallows these keys before the menu can see them.
-    connect(mainWnd, &MainWnd::specialKeyPressed, menu, [this](int key) {
-        if (!menu->isVisible() || key == Qt::Key_Return)
-            return;
-        QAction* chosen = key == Qt::Key_Enter ? menu->activeAction() : nullptr;
-        menu->close();
-        if (chosen && chosen->isEnabled())
-            chosen->trigger();
-    });
     addAction(tr("Copy Header"), &HeaderController::copyHdr);
     addAction(tr("Paste Header"), &HeaderController::pasteHdr);
     pasteAction = actions.last();

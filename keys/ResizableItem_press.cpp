@@ -136,6 +136,7 @@ void ResizableItem::followPower() const
     mainWnd->setBackgroundSwitches(on);
     mainWnd->headerController->setHeadersStatus(on);
     power->setAllBlackBlue(on);
+    mainWnd->setLibraryPower(on);
     power->changeScaleByTonic();
 }
 

@@ -85,6 +85,18 @@ QPixmap overlay(const QPixmap& base, const QPixmap& top, const QRect& rectangle)
     return result;
 }
 
+QPixmap faded(const QPixmap& picture, qreal opacity)
+{
+    QPixmap result = picture;
+    if (picture.isNull())
+        return result;
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setOpacity(opacity);
+    painter.drawPixmap(QPointF(0, 0), picture);
+    return result;
+}
+
 QPixmap transparent(const QSize& size)
 {
     const qreal ratio = isScreenDense() ? 2.0 : 1.0;

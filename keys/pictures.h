@@ -17,6 +17,9 @@ namespace pictures {
 /// A copy of `base` with a logical rectangle of `top` drawn at its origin.
 [[nodiscard]] QPixmap overlay(const QPixmap& base, const QPixmap& top, const QRect& rectangle);
 
+/// A copy of a picture at an opacity of 0 to 1.
+[[nodiscard]] QPixmap faded(const QPixmap& picture, qreal opacity);
+
 /// A transparent picture of a logical size, as dense as load() would give it.
 [[nodiscard]] QPixmap transparent(const QSize& size);
 

@@ -14,8 +14,14 @@ DatabaseLibrary::DatabaseLibrary() : d(std::make_unique<DatabaseLibraryPrivate>(
 
 DatabaseLibrary::~DatabaseLibrary() = default;
 
+int DatabaseLibrary::revision() const
+{
+    return d->revision;
+}
+
 void DatabaseLibrary::clear()
 {
+    ++d->revision;
     d->scales.clear();
     d->categoryNames.clear();
     d->namesSorted = true;
@@ -84,6 +90,7 @@ bool DatabaseLibrary::getScaleData(const QString& key, scale_data& out, UserRole
 
 void DatabaseLibrary::setScaleData(const QString& key, const scale_data& record, UserRole role)
 {
+    ++d->revision;
     d->scales.insert(key, record);
     if (role == LibraryRole)
         d->customList.removeAll(key);
@@ -103,8 +110,10 @@ bool DatabaseLibrary::isCustomScale(const QString& key) const
 
 void DatabaseLibrary::setCustomScale(const QString& key)
 {
-    if (d->scales.contains(key) && !isCustomScale(key))
-        d->customList.append(key);
+    if (!d->scales.contains(key) || isCustomScale(key))
+        return;
+    ++d->revision;
+    d->customList.append(key);
 }
 
 QList<QString> DatabaseLibrary::customScales() const
@@ -114,6 +123,7 @@ QList<QString> DatabaseLibrary::customScales() const
 
 void DatabaseLibrary::removeScale(const QString& key)
 {
+    ++d->revision;
     for (int i = 1; i < d->categoryScales.size(); ++i)
         d->categoryScales[i].removeOne(key);
     d->customList.removeOne(key);

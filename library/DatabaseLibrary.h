@@ -39,6 +39,10 @@ public:
     /// from the last inserted to the first; of two records with one word the first one met counts.
     void setData(const QMap<QString, scale_data>& data);
 
+    /// Another number after each change of categories, words or records; where the user stands does not
+    /// count.
+    [[nodiscard]] int revision() const;
+
     // Records
     /// False, with `out` untouched, for an unknown word or one of the other role.
     bool getScaleData(const QString& key, scale_data& out, UserRole role) const;

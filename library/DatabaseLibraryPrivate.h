@@ -22,6 +22,7 @@ public:
     /// Sorts the names, and the words with them.
     void sortCategories();
 
+    int revision = 0;
     QVector<QList<QString>> categoryScales;
     QMap<QString, scale_data> scales;
     QList<QString> customList;

@@ -62,6 +62,7 @@ void DatabaseLibrary::insertCategory(const QString& name)
         return;
     if (!d->isSorted())
         d->sortCategories();
+    ++d->revision;
     const auto& names = qAsConst(d->categoryNames);
     const auto place = std::upper_bound(names.begin(), names.end(), name, CollatedOrder());
     const int index = static_cast<int>(place - names.begin());
@@ -76,6 +77,7 @@ void DatabaseLibrary::removeCategory(const QString& name)
     const int index = indexOfCategory(name, 0);
     if (index < 0)
         return;
+    ++d->revision;
     d->categoryNames.remove(index);
     d->categoryScales.remove(index);
     d->recentCategories.removeOne(name);
@@ -83,6 +85,7 @@ void DatabaseLibrary::removeCategory(const QString& name)
 
 void DatabaseLibrary::removeScalesWithCategory(const QString& name)
 {
+    ++d->revision;
     const QList<QString> words = scalesFromCategory(name);
     for (const QString& word : words)
         d->scales.remove(word);
@@ -93,6 +96,7 @@ bool DatabaseLibrary::renameCategory(const QString& oldName, const QString& newN
     const int index = indexOfCategory(oldName, 0);
     if (index < 0 || d->categoryNames.contains(newName))
         return false;
+    ++d->revision;
     d->categoryNames[index] = newName;
     d->namesSorted = false;
     d->recentCategories[d->recentCategories.indexOf(oldName)] = newName;

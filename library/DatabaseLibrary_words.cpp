@@ -7,7 +7,10 @@
 QList<QString>* DatabaseLibraryPrivate::wordsOf(const QString& category)
 {
     const int index = categoryNames.indexOf(category);
-    return index < 0 ? nullptr : &categoryScales[index];
+    if (index < 0)
+        return nullptr;
+    ++revision; // who asks for a list to write in writes
+    return &categoryScales[index];
 }
 
 const QList<QString>* DatabaseLibraryPrivate::wordsOf(const QString& category) const

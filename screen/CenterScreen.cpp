@@ -1,28 +1,33 @@
+// The scenes: what is shown in which.
+
 #include "screen/CenterScreen.h"
 
 #include "app/MainWnd.h"
-#include "keys/pictures.h"
+#include "screen/LibraryView.h"
 
 #include <QFile>
-#include <QGraphicsPixmapItem>
-#include <QGraphicsScene>
-#include <QSignalBlocker>
 #include <QTimer>
 
 namespace {
 
-constexpr int selectDelayMs = 200;
-const QPointF portBackgroundPos(320, 15);   // in the scene
-const QRect inListPlace(214, 196, 185, 80); // in the form
-const QRect outListPlace(411, 196, 175, 80);
+constexpr int creditIntervalMs = 50;
+constexpr int browserDelayMs = 40; // longer than a chord takes to arrive, too short for the eye
 
 } // namespace
 
 CenterScreen::CenterScreen(QGraphicsScene* centreScene, const Ui_SorvaneClass& ui, QWidget* mainWindow)
-    : QWidget(mainWindow), scene(centreScene), form(ui), window(mainWindow)
+    : QWidget(mainWindow), creditTimer(new QTimer(this)), scene(centreScene), form(ui), window(mainWindow),
+      browserTimer(new QTimer(this))
 {
     hide();
+    creditTimer->setInterval(creditIntervalMs);
+    connect(creditTimer, &QTimer::timeout, this, &CenterScreen::moveCreditsText);
+    browserTimer->setSingleShot(true);
+    browserTimer->setInterval(browserDelayMs);
+    connect(browserTimer, &QTimer::timeout, this, &CenterScreen::refreshBrowser);
 }
+
+CenterScreen::~CenterScreen() = default;
 
 QString CenterScreen::getMainTextData(const QString& file)
 {
@@ -44,27 +49,38 @@ void CenterScreen::showTexts(bool show)
     form.about->setVisible(show);
 }
 
+void CenterScreen::leaveScene()
+{
+    hideCreditText();
+    creditTimer->stop();
+    form.versionLabel->hide();
+    showMIDIPortsListView(false);
+    showLibraryView(false);
+}
+
 void CenterScreen::enterScene(scene_number number)
 {
-    form.versionLabel->hide();
     currentScene = number;
     mainWnd->didCenterSceneChange();
 }
 
 void CenterScreen::setSceneDefault()
 {
-    showMIDIPortsListView(false);
+    leaveScene();
     showTexts(true);
     showButtons(true, true);
     form.hiddenLayer->hide();
     form.buttonMIDIinOut->setChecked(false);
     form.buttonCredits->setChecked(false);
+    if (view)
+        view->setPlain();
+    describedWord.clear();
     enterScene(scene_default);
 }
 
 void CenterScreen::setSceneClean()
 {
-    showMIDIPortsListView(false);
+    leaveScene();
     showTexts(true);
     showButtons(false, false);
     form.centerLogo->setFocus();
@@ -73,6 +89,7 @@ void CenterScreen::setSceneClean()
 
 void CenterScreen::setSceneMIDIinOut()
 {
+    leaveScene();
     showMIDIPortsListView(true);
     showTexts(false);
     showButtons(true, false);
@@ -82,77 +99,27 @@ void CenterScreen::setSceneMIDIinOut()
     enterScene(scene_ports);
 }
 
-void CenterScreen::showMIDIPortsListView(bool show)
+void CenterScreen::setSceneLibrary()
 {
-    portBackground->setVisible(show);
-    inPortList->setVisible(show);
-    outPortList->setVisible(show);
+    leaveScene();
+    showTexts(false);
+    showButtons(false, false);
+    form.hiddenLayer->hide();
+    showLibraryView(true);
 }
 
-QListWidget* CenterScreen::createPortList(const QRect& place, const QString& name, const QString& style)
+void CenterScreen::setScenePrevious()
 {
-    auto* list = new QListWidget(window);
-    list->setGeometry(place);
-    list->setAccessibleName(name);
-    list->setToolTip(tr("Click a port to open or close it; several can be open at once"));
-    list->setSelectionMode(QAbstractItemView::MultiSelection);
-    list->setFocusPolicy(Qt::NoFocus);
-    list->setFrameShape(QFrame::NoFrame);
-    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list->setStyleSheet(style);
-    return list;
-}
-
-void CenterScreen::addMidiPortsListView()
-{
-    portBackground =
-        scene->addPixmap(pictures::load(QStringLiteral(":/Resources/MidiIoScreen/MIDI_IO_portBG.png")));
-    portBackground->setPos(portBackgroundPos);
-    const QString style = getMainTextData(QStringLiteral(":/Resources/MidiIoScreen/MIDI_Ports_list-mac.qss"));
-    inPortList = createPortList(inListPlace, tr("MIDI input ports"), style);
-    outPortList = createPortList(outListPlace, tr("MIDI output ports"), style);
-}
-
-void CenterScreen::addPort(QListWidget& list, const QString& name, bool selected)
-{
-    {
-        // The port is opened by the timer, not by the row that comes into being.
-        const QSignalBlocker blocker(&list);
-        auto* row = new QListWidgetItem(name, &list);
-        row->setToolTip(name);
-        row->setSelected(selected);
+    switch (currentScene) {
+    case scene_default:
+        return setSceneDefault();
+    case scene_clean:
+        return setSceneClean();
+    case scene_ports:
+        return setSceneMIDIinOut();
+    case scene_credits:
+        return setSceneCredits();
+    default:
+        return;
     }
-    QTimer::singleShot(selectDelayMs, this, &CenterScreen::delayedSelect);
-}
-
-void CenterScreen::addInPort(const QString& name, bool selected)
-{
-    addPort(*inPortList, name, selected);
-}
-
-void CenterScreen::addOutPort(const QString& name, bool selected)
-{
-    addPort(*outPortList, name, selected);
-}
-
-QString CenterScreen::getInPort(int row) const
-{
-    const QListWidgetItem* item = inPortList->item(row);
-    return item ? item->text() : QString();
-}
-
-QString CenterScreen::getOutPort(int row) const
-{
-    const QListWidgetItem* item = outPortList->item(row);
-    return item ? item->text() : QString();
-}
-
-void CenterScreen::delayedSelect()
-{
-    for (int row = 0; row < inPortList->count(); ++row)
-        if (inPortList->item(row)->isSelected())
-            mainWnd->inPortChanged(inPortList->item(row));
-    for (int row = 0; row < outPortList->count(); ++row)
-        if (outPortList->item(row)->isSelected())
-            mainWnd->outPortChanged(outPortList->item(row));
 }

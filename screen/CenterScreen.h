@@ -1,13 +1,25 @@
 #pragma once
 
+#include "library/scale_data.h"
+#include "screen/LibraryButton.h"
+
 #include <QListWidget>
+#include <QStringList>
 #include <QWidget>
 
-class Ui_SorvaneClass;
-class QGraphicsPixmapItem;
-class QGraphicsScene;
+#include <memory>
+#include <utility>
+#include <vector>
 
-/// Decides what the panel between the keyboards shows. It is never shown itself.
+class LibraryView;
+class PortListWidget;
+class QGraphicsScene;
+class QGraphicsTextItem;
+class QTimer;
+class Ui_SorvaneClass;
+
+/// Decides what the panel between the keyboards shows: its scenes, the ports, the credits, and the library,
+/// which is edited by hand here and nowhere else. It is never shown itself. Main thread only.
 class CenterScreen : public QWidget
 {
     Q_OBJECT
@@ -15,8 +27,9 @@ class CenterScreen : public QWidget
 public:
     /// Works on the widgets of the form, which it does not own, and on the scene below them.
     CenterScreen(QGraphicsScene* centreScene, const Ui_SorvaneClass& ui, QWidget* mainWindow);
+    ~CenterScreen() override;
 
-    // What is shown
+    // Scenes (CenterScreen.cpp)
     enum scene_number {
         scene_none = 0,
         scene_default = 1,
@@ -27,10 +40,16 @@ public:
     void setSceneDefault();
     void setSceneClean();
     void setSceneMIDIinOut();
-    void showMIDIPortsListView(bool show);
+    void setSceneCredits();
+    void setSceneLibrary();
+    /// The setter of the current scene once more.
+    void setScenePrevious();
+    /// A file's text, read as UTF-8; "" if it cannot be read.
+    [[nodiscard]] static QString getMainTextData(const QString& file);
 
-    // Ports
+    // Ports (CenterScreen_ports.cpp)
     void addMidiPortsListView();
+    void showMIDIPortsListView(bool show);
     /// Appends a row, selected or not, and asks for delayedSelect() in 200 milliseconds.
     void addInPort(const QString& name, bool selected);
     void addOutPort(const QString& name, bool selected);
@@ -38,26 +57,110 @@ public:
     [[nodiscard]] QString getInPort(int row) const;
     [[nodiscard]] QString getOutPort(int row) const;
 
-    /// A file's text, read as UTF-8; "" if it cannot be read.
-    [[nodiscard]] static QString getMainTextData(const QString& file);
+    // Credits (CenterScreen_credits.cpp)
+    /// The lines of a file, wrapped; none if it cannot be read.
+    [[nodiscard]] static QStringList parseCreditFile(const QString& file);
+    void hideCreditText();
+    void resetCreditText();
+
+    // Library view (CenterScreen_library.cpp)
+    void addLibraryView();
+    void showLibraryView(bool show);
+    /// Whether the played scale is in the library.
+    [[nodiscard]] bool isMatches() const { return matches; }
+    /// The library can be opened with the power on only.
+    void setLibraryAccess(bool powered);
+    [[nodiscard]] bool isLibraryAccessible() const;
+    void setGhostCopyButtonsEnabled(bool enabled);
+    void showExclamationMark(bool show);
+    /// False without a library view; else whether the plates have room for the name (library_name::fits).
+    [[nodiscard]] bool canBeRightLibraryName(const QString& name) const;
+    [[nodiscard]] LibraryView* libraryView() const { return view.get(); }
+
+    // What the browser shows (CenterScreen_browser.cpp)
+    /// Brings lists, page and plates up to date, where they are not, once the notes that wait are played.
+    void updateBrowser();
+    /// The same at once, for what the user's hand does.
+    void refreshBrowser();
+    void updateCategoryItems();
+    void updateNameItems(const QString& category, int index);
+    /// The scale that is played; the page and the plate follow with the next update.
+    void updateSceneDescr(const QString& key);
+
+    // What the user does with the library (CenterScreen_library_edit.cpp)
+    /// The action of a library button.
+    void carryOut(LibraryButton::Code code);
+    void appendCategory();
+    void renameCategory();
+    void deleteCategory();
+    void editCategory(); ///< renames it
+    /// Adds the played scale. `field` takes the focus: 1 title, 2 and 3 short names, 4 description.
+    void appendScale(int field);
+    void copyScale();
+    void moveScale();
+    void deleteScale();
+    /// Edits a scale, or adds it to a category if it stands in none.
+    void openEditSceneDlg(const QString& word, int field);
 
     QListWidget* inPortList = nullptr;
     QListWidget* outPortList = nullptr;
+    QList<QGraphicsTextItem*> creditItems;
+    QStringList creditLines;
     int currentScene = scene_none;
+    bool libraryOpen = false;
+    bool libraryRemembered = false; ///< whether the library opens with the power
+    bool matches = false;
+    QTimer* const creditTimer;
 
 public slots:
     /// Opens the ports of the selected rows: the event loop runs by then and the rows are complete.
     void delayedSelect();
+    void moveCreditsText();
+    void categoryListItemClicked(QListWidgetItem* item);
+    void scaleListItemClicked(QListWidgetItem* item);
+    void scaleListItemDblClicked(QListWidgetItem* item);
+    void descrButtonClicked();
 
 private:
-    [[nodiscard]] QListWidget* createPortList(const QRect& place, const QString& name, const QString& style);
-    void addPort(QListWidget& list, const QString& name, bool selected);
+    // Scenes (CenterScreen.cpp)
+    void leaveScene();
     void showButtons(bool left, bool right);
     void showTexts(bool show);
     void enterScene(scene_number number);
+
+    // Ports (CenterScreen_ports.cpp)
+    [[nodiscard]] PortListWidget* createPortList(const QRect& place, const QString& name,
+                                                 const QString& style);
+    void addPort(PortListWidget& list, const QString& name, bool selected);
+
+    // What the browser shows (CenterScreen_browser.cpp)
+    /// All that the browser shows, in short: what is equal needs no rebuilding.
+    struct Shown
+    {
+        int revision, category, scale;
+        QString described, played;
+        bool operator==(const Shown& other) const;
+    };
+    [[nodiscard]] Shown wanted() const;
+    void showDescription();
+    void playScale(const QString& word);
+
+    // What the user does with the library (CenterScreen_library_edit.cpp)
+    void editKey(bool inScales, int key);
+    [[nodiscard]] bool confirmDelete(const QString& name);
+    [[nodiscard]] QString askCategory(LibraryButton::Code at, const QString& word);
+    void addToLibrary(const QString& word, int field);
+    void storeScale(const scale_data& record);
 
     QGraphicsScene* const scene;
     const Ui_SorvaneClass& form;
     QWidget* const window;
     QGraphicsPixmapItem* portBackground = nullptr;
+    std::unique_ptr<LibraryView> view;
+    QTimer* const browserTimer;
+    QString samplePage;
+    QString describedWord; ///< whose page shows
+    QString playedWord;
+    Shown shown{-1, -1, -1, {}, {}};
+    std::vector<std::pair<QString, QString>> shownScales;
 };

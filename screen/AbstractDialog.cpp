@@ -1,0 +1,286 @@
+#include "screen/AbstractDialog.h"
+
+#include "app/MainWnd.h"
+#include "keys/pictures.h"
+#include "screen/CenterScreen.h"
+
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+#include <QTextEdit>
+
+#include <algorithm>
+
+namespace {
+
+const QColor layerShade(18, 17, 15, 150);
+
+/// The dialogs that run, the innermost last.
+QList<AbstractDialog*>& running()
+{
+    static QList<AbstractDialog*> dialogs;
+    return dialogs;
+}
+
+bool isPlainSpace(const QKeyEvent& event)
+{
+    const auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    return event.key() == Qt::Key_Space && !(event.modifiers() & commands);
+}
+
+/// False if the object is no text field that can be written.
+bool typeSpace(QObject* field)
+{
+    auto* line = qobject_cast<QLineEdit*>(field);
+    auto* text = qobject_cast<QTextEdit*>(field);
+    if (line && !line->isReadOnly())
+        line->insert(QStringLiteral(" "));
+    else if (text && !text->isReadOnly())
+        text->insertPlainText(QStringLiteral(" "));
+    else
+        return false;
+    return true;
+}
+
+// The window's filter swallows both keys before a popup sees them.
+void steerPopup(QWidget& popup, int key)
+{
+    if (key == Qt::Key_Escape) {
+        popup.close();
+    } else if (key == Qt::Key_Enter) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QWidget* inside = popup.focusWidget();
+        QCoreApplication::sendEvent(inside ? inside : &popup, &press);
+    }
+}
+
+} // namespace
+
+AbstractDialog::AbstractDialog(QWidget* parent)
+    : QWidget(parent), mainWindow(mainWnd), loop(std::make_shared<QEventLoop>())
+{
+    QPalette transparent = palette();
+    transparent.setColor(QPalette::Window, Qt::transparent);
+    setPalette(transparent);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_NoMousePropagation);
+    setCursor(Qt::ArrowCursor);
+    setStyleSheet(CenterScreen::getMainTextData(QStringLiteral(":/Resources/Dialogs/dialog.qss")));
+    QWidget::setVisible(false); // a parent that is shown later does not show it
+    if (parent)
+        parent->installEventFilter(this);
+    connect(mainWnd, &MainWnd::specialKeyPressed, this, [this](int key) {
+        if (takesKeys())
+            specialKeyPress(key);
+    });
+}
+
+AbstractDialog::~AbstractDialog()
+{
+    loop->exit(0);
+    if (!isHidden() || running().contains(this))
+        leave();
+}
+
+// Also valid while the window is being destroyed, which deletes the dialogs in it: it is none by then.
+MainWnd* AbstractDialog::livingWindow() const
+{
+    return qobject_cast<MainWnd*>(mainWindow.data());
+}
+
+bool AbstractDialog::isRunning() const
+{
+    return loop->isRunning();
+}
+
+int AbstractDialog::exec()
+{
+    if (running().contains(this))
+        return 0;
+    wasAccepted = wasRejected = false;
+    livingWindow()->endGestures();
+    livingWindow()->dialogOpen = true;
+    running().append(this);
+    show();
+    raise();
+    const QPointer<AbstractDialog> alive(this);
+    const std::shared_ptr<QEventLoop> run = loop;
+    run->exec();
+    if (!alive)
+        return 0;
+    if (running().contains(this))
+        reject();
+    return wasAccepted ? 1 : 0;
+}
+
+void AbstractDialog::setVisible(bool visible)
+{
+    QWidget::setVisible(visible);
+    if (!visible && isRunning())
+        reject(); // closed by other means: nobody could end the run any more
+}
+
+void AbstractDialog::accept()
+{
+    finish(true);
+}
+
+void AbstractDialog::reject()
+{
+    finish(false);
+}
+
+void AbstractDialog::finish(bool accepts)
+{
+    if (isRunning())
+        loop->exit(accepts ? 1 : 0);
+    hide();
+    const QPointer<AbstractDialog> alive(this);
+    if (accepts)
+        emit accepted();
+    else
+        emit rejected();
+    if (!alive)
+        return;
+    (accepts ? wasAccepted : wasRejected) = true;
+    leave();
+}
+
+// What another dialog needs stays: its flag and the focus.
+void AbstractDialog::leave()
+{
+    running().removeOne(this);
+    MainWnd* window = livingWindow();
+    if (!window)
+        return;
+    window->dialogOpen = !running().isEmpty();
+    if (running().isEmpty())
+        window->ui.inKeyboardGraphicsView->setFocus(Qt::OtherFocusReason);
+    else
+        running().last()->takeFocus();
+}
+
+// A dialog that is only shown must not answer to what is typed into one that runs.
+bool AbstractDialog::takesKeys() const
+{
+    if (isHidden())
+        return false;
+    return running().isEmpty() ? !livingWindow()->dialogOpen : running().last() == this;
+}
+
+void AbstractDialog::specialKeyPress(int key)
+{
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        steerPopup(*popup, key);
+        return;
+    }
+    // The Enter key always carries the modifier of its keypad.
+    const bool modified = QApplication::keyboardModifiers() & ~Qt::KeypadModifier;
+    if (key == Qt::Key_Escape)
+        reject();
+    else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && !modified)
+        accept();
+}
+
+void AbstractDialog::setPanel(QWidget* widget, const QString& picturePath, const QSize& otherwise)
+{
+    panelPicture = pictures::load(picturePath);
+    const QSize size = panelPicture.size() / panelPicture.devicePixelRatio();
+    widget->setFixedSize(panelPicture.isNull() ? otherwise : size);
+    setPanel(widget);
+}
+
+void AbstractDialog::setPanel(QWidget* widget)
+{
+    panel = widget;
+    coverParent();
+    centrePanel();
+}
+
+void AbstractDialog::addField(QWidget* field)
+{
+    fields.append(field);
+    field->installEventFilter(this);
+}
+
+bool AbstractDialog::eventFilter(QObject* object, QEvent* event)
+{
+    if (object == parent() && event->type() == QEvent::Resize)
+        coverParent();
+    // The window's filter takes the key press of a space for itself; this event comes before it.
+    if (event->type() == QEvent::ShortcutOverride && isPlainSpace(*static_cast<QKeyEvent*>(event)) &&
+        typeSpace(object)) {
+        event->accept();
+        return true;
+    }
+    return QWidget::eventFilter(object, event);
+}
+
+QList<QWidget*> AbstractDialog::reachableFields() const
+{
+    QList<QWidget*> reachable;
+    std::copy_if(fields.begin(), fields.end(), std::back_inserter(reachable),
+                 [](const QWidget* field) { return field->isVisible() && field->isEnabled(); });
+    return reachable;
+}
+
+bool AbstractDialog::focusNextPrevChild(bool next)
+{
+    const QList<QWidget*> reachable = reachableFields();
+    if (reachable.isEmpty())
+        return true;
+    const int count = reachable.size();
+    const int now = reachable.indexOf(QApplication::focusWidget());
+    const int step = now < 0 ? (next ? 0 : count - 1) : now + (next ? 1 : count - 1);
+    reachable.at(step % count)->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+void AbstractDialog::keyPressEvent(QKeyEvent* event)
+{
+    event->accept(); // no business of the window below
+}
+
+void AbstractDialog::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), layerShade);
+    if (panel)
+        painter.drawPixmap(panel->pos(), panelPicture);
+}
+
+void AbstractDialog::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    centrePanel();
+}
+
+void AbstractDialog::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    coverParent();
+    takeFocus();
+}
+
+void AbstractDialog::coverParent()
+{
+    if (parentWidget())
+        setGeometry(parentWidget()->rect());
+}
+
+void AbstractDialog::centrePanel()
+{
+    if (!panel || layout())
+        return;
+    panel->move((width() - panel->width()) / 2, (height() - panel->height()) / 2);
+    update();
+}
+
+void AbstractDialog::takeFocus()
+{
+    QWidget* target = firstFocus ? firstFocus.data() : this;
+    target->setFocus(Qt::OtherFocusReason);
+    if (auto* line = qobject_cast<QLineEdit*>(target))
+        line->selectAll();
+}

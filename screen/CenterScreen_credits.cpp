@@ -1,0 +1,97 @@
+// The credits, which scroll for ever.
+
+#include "screen/CenterScreen.h"
+
+#include "app/MainWnd.h"
+#include "screen/credit_lines.h"
+
+#include <QGraphicsScene>
+#include <QGraphicsTextItem>
+#include <QTextBlockFormat>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextOption>
+#include <QTimer>
+
+namespace {
+
+// Scene pixels.
+constexpr qreal halfWidth = 145, firstLineY = 100, lineDistance = 10;
+constexpr qreal step = 0.6, vanishingY = 45.0;
+constexpr QRgb textColor = 0x575450;
+
+/// A line that is centred on a point, however long it is: the text is no pixels wide, and its margin is the
+/// point.
+QGraphicsTextItem* makeLine(const QString& text)
+{
+    auto* item = new QGraphicsTextItem;
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(10);
+    item->setFont(font);
+    item->setDefaultTextColor(QColor(textColor));
+    item->setPlainText(text);
+    QTextOption option(Qt::AlignCenter);
+    option.setWrapMode(QTextOption::NoWrap);
+    item->document()->setDefaultTextOption(option);
+    QTextBlockFormat format;
+    format.setLeftMargin(halfWidth);
+    QTextCursor(item->document()).mergeBlockFormat(format);
+    item->setTextWidth(0);
+    item->setAcceptedMouseButtons(Qt::NoButton);
+    return item;
+}
+
+} // namespace
+
+QStringList CenterScreen::parseCreditFile(const QString& file)
+{
+    return wrappedCreditLines(getMainTextData(file));
+}
+
+void CenterScreen::hideCreditText()
+{
+    qDeleteAll(creditItems);
+    creditItems.clear();
+}
+
+void CenterScreen::setSceneCredits()
+{
+    leaveScene();
+    form.versionLabel->show();
+    showTexts(false);
+    showButtons(true, true);
+    form.hiddenLayer->show();
+    form.buttonMIDIinOut->setChecked(false);
+    form.buttonCredits->setChecked(false);
+    for (const QString& line : qAsConst(creditLines)) {
+        QGraphicsTextItem* item = makeLine(line);
+        item->setX(x() + scene->width() / 2 - halfWidth);
+        scene->addItem(item);
+        creditItems.append(item);
+    }
+    resetCreditText();
+    creditTimer->start();
+    form.buttonCredits->setFocus();
+    enterScene(scene_credits);
+}
+
+void CenterScreen::moveCreditsText()
+{
+    for (QGraphicsTextItem* item : qAsConst(creditItems)) {
+        item->setY(item->y() - step);
+        if (item->y() < vanishingY)
+            item->hide();
+    }
+    if (!creditItems.isEmpty() && !creditItems.last()->isVisible())
+        resetCreditText();
+}
+
+void CenterScreen::resetCreditText()
+{
+    qreal lineY = y() + firstLineY;
+    for (QGraphicsTextItem* item : qAsConst(creditItems)) {
+        item->setY(lineY);
+        item->show();
+        lineY += lineDistance;
+    }
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "screen/AbstractDialog.h"
+
+class ScaleFields;
+
+/// Asks for the fields of a scale that the library holds. The number says which has the focus at first: 1 the
+/// title, 2 and 3 the short names, 4 the description; another one means the title.
+class EditWindow : public AbstractDialog
+{
+    Q_OBJECT
+
+public:
+    EditWindow(int field, QWidget* parent);
+
+    [[nodiscard]] QString name() const;
+    [[nodiscard]] QString abbr1() const;
+    [[nodiscard]] QString abbr2() const;
+    [[nodiscard]] QString description() const;
+
+    void setName(const QString& text);
+    void setAbbr1(const QString& text); ///< cut to what fits
+    void setAbbr2(const QString& text); ///< cut to what fits
+    void setDescription(const QString& text);
+
+public slots:
+    /// Accepts only if every field but the description is filled in.
+    void accept() override;
+
+private:
+    ScaleFields* const form;
+};

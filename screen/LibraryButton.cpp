@@ -1,0 +1,98 @@
+#include "screen/LibraryButton.h"
+
+#include "app/MainWnd.h"
+#include "keys/pictures.h"
+#include "screen/CenterScreen.h"
+#include "screen/library_name.h"
+
+#include <QGraphicsSceneMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr qreal ghostOpacity = 0.35;
+const QColor ink(0x57, 0x54, 0x50);
+
+} // namespace
+
+LibraryButton::LibraryButton(Code buttonCode, QPoint place, const QPixmap& neutral, const QPixmap& active,
+                             QGraphicsItem* parent)
+    : QGraphicsPixmapItem(neutral, parent), code(buttonCode), neutralPix(neutral), activePix(active),
+      ghostPix(pictures::faded(neutral, ghostOpacity))
+{
+    setPos(place);
+    setShapeMode(BoundingRectShape);
+}
+
+void LibraryButton::setEnabled(bool enabled)
+{
+    if (isEnabled() == enabled)
+        return;
+    QGraphicsPixmapItem::setEnabled(enabled);
+    setPlain();
+}
+
+void LibraryButton::setPlain()
+{
+    pressed = false;
+    setPixmap(isEnabled() ? neutralPix : ghostPix);
+}
+
+void LibraryButton::showPressed(bool down)
+{
+    if (pressed == down)
+        return;
+    pressed = down;
+    setPixmap(down ? activePix : neutralPix);
+}
+
+void LibraryButton::setText(const QString& words)
+{
+    if (plateText == words)
+        return;
+    plateText = words;
+    update();
+}
+
+void LibraryButton::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget)
+{
+    QGraphicsPixmapItem::paint(painter, option, widget);
+    if (plateText.isEmpty())
+        return;
+    painter->setFont(library_name::libraryFont());
+    painter->setPen(ink);
+    painter->drawText(boundingRect(), Qt::AlignCenter, plateText);
+}
+
+void LibraryButton::mousePressEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || mainWnd->dialogOpen) {
+        event->ignore();
+        return;
+    }
+    showPressed(true);
+    event->accept();
+}
+
+void LibraryButton::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (event->buttons() & Qt::LeftButton)
+        showPressed(contains(event->pos()));
+}
+
+void LibraryButton::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    const bool acts = pressed && contains(event->pos());
+    setPlain();
+    if (acts)
+        mainWnd->centerScreen->carryOut(code);
+}
+
+bool LibraryButton::sceneEvent(QEvent* event)
+{
+    if (event->type() == QEvent::UngrabMouse && pressed)
+        setPlain(); // no release will come
+    return QGraphicsPixmapItem::sceneEvent(event);
+}
