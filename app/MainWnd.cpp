@@ -84,6 +84,7 @@ MainWnd::MainWnd() : newWindowShortcut(QKeySequence(QStringLiteral("Ctrl+N")), t
 MainWnd::~MainWnd()
 {
     endGestures();
+    hide(); // what the children do then needs the members too
 }
 
 void MainWnd::setUpWindow()

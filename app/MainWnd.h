@@ -63,6 +63,8 @@ public:
     void didCenterSceneChange();
     /// Opens the library, or goes back to the scene before it.
     void showLibraryScreen(bool show);
+    /// Asks for the names of the scale that the selector shows.
+    void editPlayedScale();
     /// Gives the keyboard to the input view.
     void focusInKeyboard();
 
@@ -217,6 +219,8 @@ private:
 
     // Centre screen (MainWnd_center.cpp)
     void createGame();
+    [[nodiscard]] QList<QWidget*> hitAreas() const;
+    void maskHitAreas(const QPolygon& game);
     void lowerHitAreas();
     void raiseWayBack();
     void raiseButtons();

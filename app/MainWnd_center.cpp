@@ -3,7 +3,7 @@
 #include "app/MainWnd.h"
 
 #include "app/vendor.h"
-#include "keys/PowerItem.h"
+#include "keys/ScaleKeyController.h"
 #include "keys/pictures.h"
 #include "screen/CategoryListWidget.h"
 #include "screen/CenterScreen.h"
@@ -22,10 +22,16 @@ constexpr int gameAngle = 8;             // degrees, about the top left corner
 
 } // namespace
 
+QList<QWidget*> MainWnd::hitAreas() const
+{
+    return {ui.scene1Button,      ui.scene2Button,      ui.scene34TopButton,
+            ui.scene34LeftButton, ui.scene4RightButton, ui.scene3RightButton};
+}
+
 void MainWnd::lowerHitAreas()
 {
-    for (QWidget* area : {ui.scene1Button, ui.scene2Button, ui.scene34TopButton, ui.scene34LeftButton,
-                          ui.scene4RightButton, ui.scene3RightButton})
+    const QList<QWidget*> areas = hitAreas();
+    for (QWidget* area : areas)
         area->lower();
 }
 
@@ -110,8 +116,8 @@ void MainWnd::createGame()
     auto* game = new TicTacToe; // the proxy's, which is the scene's
     game->setState(QStringLiteral("---------"));
     game->setStyleSheet(QStringLiteral("background-color: transparent"));
-    game->setMinimumSize(gamePlace.size().toSize()); // its size hint is larger
     QGraphicsProxyWidget* proxy = ui.centerGraphicsView->scene()->addWidget(game);
+    proxy->setToolTip(game->toolTip()); // the proxy does not ask for it
     proxy->setGeometry(gamePlace);
     auto* turn = new QPropertyAnimation(proxy, "rotation");
     turn->setDuration(0);
@@ -119,6 +125,17 @@ void MainWnd::createGame()
     turn->setEndValue(gameAngle);
     turn->setEasingCurve(QEasingCurve::Linear);
     turn->start(QAbstractAnimation::DeleteWhenStopped);
+    maskHitAreas(proxy->mapToScene(proxy->rect()).toPolygon());
+}
+
+// A hit area ends where the view ends that covers it when it is lowered, and leaves the game alone.
+void MainWnd::maskHitAreas(const QPolygon& game)
+{
+    const QPoint view = ui.centerGraphicsView->pos();
+    const QRegion covered = QRegion(ui.centerGraphicsView->geometry()) - QRegion(game.translated(view));
+    const QList<QWidget*> areas = hitAreas();
+    for (QWidget* area : areas)
+        area->setMask(covered.translated(-area->pos()) & QRegion(area->rect()));
 }
 
 void MainWnd::showLibraryScreen(bool show)
@@ -137,6 +154,13 @@ void MainWnd::showLibraryScreen(bool show)
     raiseWayBack();
     if (listHadFocus)
         focusInKeyboard();
+}
+
+void MainWnd::editPlayedScale()
+{
+    constexpr int titleField = 1;
+    const auto* selector = static_cast<ScaleKeyController*>(scaleController);
+    centerScreen->openEditSceneDlg(selector->scaleModifier(), titleField);
 }
 
 void MainWnd::backToDefaultScene()

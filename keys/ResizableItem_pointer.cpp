@@ -7,18 +7,10 @@
 #include "headers/DiagramScene.h"
 #include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
-#include "keys/ScaleKeyController.h"
 #include "keys/key_roles.h"
 #include "logging/categories.h"
-#include "screen/CenterScreen.h"
 
 #include <QGraphicsSceneMouseEvent>
-
-namespace {
-
-constexpr int titleField = 1; // of the dialog that edits a scale
-
-} // namespace
 
 void ResizableItem::hoverEnterEvent(QGraphicsSceneHoverEvent* event)
 {
@@ -120,8 +112,7 @@ void ResizableItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
     if (!mouseHeld || event->button() != Qt::LeftButton || !key_roles::isHeader(this))
         return;
     setFlag(ItemIsMovable, false);
-    mainWnd->centerScreen->openEditSceneDlg(
-        static_cast<ScaleKeyController*>(mainWnd->scaleController)->scaleModifier(), titleField);
+    mainWnd->editPlayedScale();
 }
 
 void ResizableItem::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)

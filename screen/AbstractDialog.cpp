@@ -16,7 +16,7 @@ namespace {
 
 const QColor layerShade(18, 17, 15, 150);
 
-/// The dialogs that run, the innermost last.
+/// The dialogs whose exec() has not returned, the innermost last.
 QList<AbstractDialog*>& running()
 {
     static QList<AbstractDialog*> dialogs;
@@ -43,7 +43,13 @@ bool typeSpace(QObject* field)
     return true;
 }
 
-// The window's filter swallows both keys before a popup sees them.
+bool isInPopup(QObject* object)
+{
+    const auto* widget = qobject_cast<QWidget*>(object);
+    return widget && widget->window()->windowType() == Qt::Popup;
+}
+
+// The window's filter swallows both keys before a menu sees them.
 void steerPopup(QWidget& popup, int key)
 {
     if (key == Qt::Key_Escape) {
@@ -68,8 +74,6 @@ AbstractDialog::AbstractDialog(QWidget* parent)
     setCursor(Qt::ArrowCursor);
     setStyleSheet(CenterScreen::getMainTextData(QStringLiteral(":/Resources/Dialogs/dialog.qss")));
     QWidget::setVisible(false); // a parent that is shown later does not show it
-    if (parent)
-        parent->installEventFilter(this);
     connect(mainWnd, &MainWnd::specialKeyPressed, this, [this](int key) {
         if (takesKeys())
             specialKeyPress(key);
@@ -79,7 +83,9 @@ AbstractDialog::AbstractDialog(QWidget* parent)
 AbstractDialog::~AbstractDialog()
 {
     loop->exit(0);
-    if (!isHidden() || running().contains(this))
+    const bool ends = !isHidden() || running().contains(this);
+    running().removeOne(this);
+    if (ends)
         leave();
 }
 
@@ -109,8 +115,9 @@ int AbstractDialog::exec()
     run->exec();
     if (!alive)
         return 0;
-    if (running().contains(this))
+    if (!wasAccepted && !wasRejected)
         reject();
+    running().removeOne(this);
     return wasAccepted ? 1 : 0;
 }
 
@@ -150,21 +157,24 @@ void AbstractDialog::finish(bool accepts)
 // What another dialog needs stays: its flag and the focus.
 void AbstractDialog::leave()
 {
-    running().removeOne(this);
     MainWnd* window = livingWindow();
     if (!window)
         return;
-    window->dialogOpen = !running().isEmpty();
-    if (running().isEmpty())
-        window->ui.inKeyboardGraphicsView->setFocus(Qt::OtherFocusReason);
+    const auto& all = running();
+    const auto below = std::find_if(all.rbegin(), all.rend(),
+                                    [](const AbstractDialog* dialog) { return dialog->isRunning(); });
+    window->dialogOpen = below != all.rend();
+    if (window->dialogOpen)
+        (*below)->takeFocus();
     else
-        running().last()->takeFocus();
+        window->ui.inKeyboardGraphicsView->setFocus(Qt::OtherFocusReason);
 }
 
-// A dialog that is only shown must not answer to what is typed into one that runs.
+// One press, one answer: the window tells of a press once for each widget that it comes by, and the dialog
+// below must not take what ended the one above. A dialog that is only shown leaves the keys to one that runs.
 bool AbstractDialog::takesKeys() const
 {
-    if (isHidden())
+    if (isHidden() || (popupHadKey && !QApplication::activePopupWidget()))
         return false;
     return running().isEmpty() ? !livingWindow()->dialogOpen : running().last() == this;
 }
@@ -201,20 +211,22 @@ void AbstractDialog::setPanel(QWidget* widget)
 void AbstractDialog::addField(QWidget* field)
 {
     fields.append(field);
-    field->installEventFilter(this);
 }
 
+// Sees the events of the whole program while the dialog is shown.
 bool AbstractDialog::eventFilter(QObject* object, QEvent* event)
 {
     if (object == parent() && event->type() == QEvent::Resize)
         coverParent();
+    if (event->type() != QEvent::ShortcutOverride)
+        return QWidget::eventFilter(object, event);
+    popupHadKey = isInPopup(object) || QApplication::activePopupWidget();
     // The window's filter takes the key press of a space for itself; this event comes before it.
-    if (event->type() == QEvent::ShortcutOverride && isPlainSpace(*static_cast<QKeyEvent*>(event)) &&
-        typeSpace(object)) {
-        event->accept();
-        return true;
-    }
-    return QWidget::eventFilter(object, event);
+    if (!fields.contains(static_cast<QWidget*>(object)) || !isPlainSpace(*static_cast<QKeyEvent*>(event)) ||
+        !typeSpace(object))
+        return false;
+    event->accept();
+    return true;
 }
 
 QList<QWidget*> AbstractDialog::reachableFields() const
@@ -259,8 +271,15 @@ void AbstractDialog::resizeEvent(QResizeEvent* event)
 void AbstractDialog::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
+    QCoreApplication::instance()->installEventFilter(this);
     coverParent();
     takeFocus();
+}
+
+void AbstractDialog::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    QCoreApplication::instance()->removeEventFilter(this);
 }
 
 void AbstractDialog::coverParent()

@@ -54,6 +54,7 @@ protected:
 
     bool eventFilter(QObject* object, QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
+    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -76,4 +77,5 @@ private:
     QPixmap panelPicture;
     QList<QWidget*> fields;
     QPointer<QWidget> firstFocus;
+    bool popupHadKey = false; ///< the last key was a popup's, which may be closed by now
 };

@@ -5,6 +5,7 @@
 #include "app/MainWnd.h"
 #include "screen/credit_lines.h"
 
+#include <QFontMetricsF>
 #include <QGraphicsScene>
 #include <QGraphicsTextItem>
 #include <QTextBlockFormat>
@@ -20,8 +21,8 @@ constexpr qreal halfWidth = 145, firstLineY = 100, lineDistance = 10;
 constexpr qreal step = 0.6, vanishingY = 45.0;
 constexpr QRgb textColor = 0x575450;
 
-/// A line that is centred on a point, however long it is: the text is no pixels wide, and its margin is the
-/// point.
+/// A line that is centred on `halfWidth`, however long it is. It has no width to be centred in, so that it is
+/// never wrapped; a margin does it.
 QGraphicsTextItem* makeLine(const QString& text)
 {
     auto* item = new QGraphicsTextItem;
@@ -34,7 +35,8 @@ QGraphicsTextItem* makeLine(const QString& text)
     option.setWrapMode(QTextOption::NoWrap);
     item->document()->setDefaultTextOption(option);
     QTextBlockFormat format;
-    format.setLeftMargin(halfWidth);
+    format.setLeftMargin(halfWidth - item->document()->documentMargin() -
+                         QFontMetricsF(font).horizontalAdvance(text) / 2);
     QTextCursor(item->document()).mergeBlockFormat(format);
     item->setTextWidth(0);
     item->setAcceptedMouseButtons(Qt::NoButton);

@@ -15,7 +15,7 @@ namespace {
 constexpr int selectDelayMs = 200;
 const QPointF portBackgroundPos(320, 15);   // in the scene
 const QRect inListPlace(214, 196, 185, 80); // in the form
-const QRect outListPlace(411, 196, 175, 80);
+const QRect outListPlace(411, 196, 160, 80); // as far as the paper note
 
 } // namespace
 

@@ -69,9 +69,7 @@ void ScaleListWidget::dragCancel()
     categories()->dragCancel();
     pressRow = -1;
     viewport()->unsetCursor();
-    // What changed meanwhile has waited.
-    if (mainWnd->centerScreen)
-        mainWnd->centerScreen->updateBrowser();
+    mainWnd->centerScreen->updateBrowser(); // what changed meanwhile has waited
 }
 
 // Any other button gives the drag up.
@@ -221,7 +219,8 @@ void ScaleListWidget::leaveEvent(QEvent* event)
 
 void ScaleListWidget::hideEvent(QHideEvent* event)
 {
-    dragCancel(); // a note may close the library under the hand
+    if (isDragging())
+        dragCancel(); // a note may close the library under the hand
     AbstractListWidget::hideEvent(event);
 }
 

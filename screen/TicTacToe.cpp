@@ -11,7 +11,8 @@ namespace {
 
 constexpr int preferredSide = 200;
 constexpr qreal gridWidth = 2.0, lineWidth = 2.5;
-const QColor softPencil(0x57, 0x54, 0x50, 150), pencil(0x57, 0x54, 0x50);
+const QColor softPencil(0x94, 0x91, 0x8b), pencil(0x57, 0x54, 0x50);
+constexpr int edgesInASide = 15; // the grid ends this part of a side before the edge, on the paper
 
 QPixmap picture(const char* name)
 {
@@ -101,11 +102,11 @@ void TicTacToe::paintPaper(QPainter& painter) const
 void TicTacToe::paintGrid(QPainter& painter) const
 {
     painter.setPen(QPen(softPencil, gridWidth, Qt::SolidLine, Qt::RoundCap));
-    const QRect inner(cellRect(0).topLeft(), cellRect(board::cells - 1).bottomRight());
+    const int across = width() / edgesInASide, down = height() / edgesInASide;
     for (int third = 1; third < board::side; ++third) {
         const int x = width() * third / board::side, y = height() * third / board::side;
-        painter.drawLine(x, inner.top(), x, inner.bottom() + 1);
-        painter.drawLine(inner.left(), y, inner.right() + 1, y);
+        painter.drawLine(x, down, x, height() - down);
+        painter.drawLine(across, y, width() - across, y);
     }
 }
 
@@ -126,7 +127,7 @@ void TicTacToe::paintWinningLines(QPainter& painter) const
     for (const board::Line& line : board::winningLines(myState)) {
         const QPointF first = QRectF(cellRect(line.front())).center(),
                       last = QRectF(cellRect(line.back())).center();
-        const QPointF beyond = (last - first) / 6; // two thirds of the way to the cells' far edges
+        const QPointF beyond = (last - first) / 8; // half way to the far edges
         painter.drawLine(first - beyond, last + beyond);
     }
 }

@@ -105,7 +105,8 @@ void TestPictures::everyResourceIsPaintedOrText()
         QVERIFY2(listed.removeOne(denseName(picture.path)), qPrintable(picture.path));
     }
     for (const QString& rest : qAsConst(listed))
-        QVERIFY2(rest.endsWith(QStringLiteral(".qss")) || rest.endsWith(QStringLiteral(".html")),
+        QVERIFY2(rest.endsWith(QStringLiteral(".qss")) || rest.endsWith(QStringLiteral(".html")) ||
+                     rest.endsWith(QStringLiteral(".txt")),
                  qPrintable(rest));
 }
 

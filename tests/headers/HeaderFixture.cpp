@@ -3,11 +3,14 @@
 #include "HeaderFixture.h"
 
 #include "app/MidiService.h"
+#include "screen/AlertWidget.h"
 
 #include <QApplication>
 #include <QMenu>
-#include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
+
+#include <algorithm>
 
 void HeaderFixture::openWindow()
 {
@@ -101,7 +104,7 @@ void HeaderFixture::whenUp(const std::function<Widget*()>& find, const std::func
     auto* poll = new QTimer(window.get());
     connect(poll, &QTimer::timeout, this, [this, poll, find, look] {
         Widget* widget = find();
-        if (!widget || !widget->isVisible())
+        if (!widget || widget->isHidden())
             return;
         poll->deleteLater();
         poll->stop();
@@ -112,9 +115,22 @@ void HeaderFixture::whenUp(const std::function<Widget*()>& find, const std::func
     poll->start(1);
 }
 
-void HeaderFixture::whenAsked(const std::function<void(QMessageBox&)>& look)
+// A test that does not show the window asks in it all the same.
+void HeaderFixture::whenAsked(const std::function<void(AlertWidget&)>& look)
 {
-    whenUp<QMessageBox>([] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }, look);
+    const auto openAlert = [this]() -> AlertWidget* {
+        const auto alerts = window->findChildren<AlertWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        const auto open = std::find_if(alerts.begin(), alerts.end(),
+                                       [](const AlertWidget* alert) { return !alert->isHidden(); });
+        return open == alerts.end() ? nullptr : *open;
+    };
+    whenUp<AlertWidget>(openAlert, look);
+}
+
+void HeaderFixture::answer(bool accepting)
+{
+    const QString name = accepting ? QStringLiteral("okButton") : QStringLiteral("cancelButton");
+    whenAsked([name](AlertWidget& alert) { alert.findChild<QPushButton*>(name)->click(); });
 }
 
 void HeaderFixture::whenMenuIsUp(const std::function<void(QMenu&)>& look)

@@ -16,8 +16,8 @@
 #include <functional>
 #include <memory>
 
+class AlertWidget;
 class QMenu;
-class QMessageBox;
 
 /// A fresh window with a recording port for each test of the headers. A test class that needs more to begin
 /// with has an init() of its own, which calls openWindow().
@@ -68,7 +68,9 @@ protected:
     QPoint placeOf(int key) const;
 
     // Menus and questions: each runs `look` once the widget is up and closes what that leaves open
-    void whenAsked(const std::function<void(QMessageBox&)>& look);
+    void whenAsked(const std::function<void(AlertWidget&)>& look);
+    /// Clicks the accepting or the cancelling button of the question when it comes.
+    void answer(bool accepting);
     void whenMenuIsUp(const std::function<void(QMenu&)>& look);
 
     std::unique_ptr<MainWnd> window;

@@ -7,7 +7,6 @@
 #include <QContextMenuEvent>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QMenu>
-#include <QMessageBox>
 #include <QTimer>
 #include <QtTest>
 
@@ -91,7 +90,7 @@ void TestHeaderMenu::everyActionRunsItsSlot()
         outcomes << both;
     }
     QCOMPARE(outcomes.size(), 10); // they can be told apart by what they leave
-    whenAsked([](QMessageBox& box) { box.reject(); });
+    answer(off);
     presets().actions.at(10)->trigger();
     QCOMPARE(seen, 1);
 }

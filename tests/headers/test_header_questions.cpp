@@ -3,8 +3,8 @@
 #include "HeaderFixture.h"
 #include "PresetModel.h"
 #include "header_pictures.h"
+#include "screen/AlertWidget.h"
 
-#include <QMessageBox>
 #include <QtTest>
 
 #include <functional>
@@ -17,8 +17,10 @@ private slots:
     // Asking
     void eraseAllAsks();
     void resetAllAsks();
-    void answers_data();
-    void answers();
+    void keysAnswer_data();
+    void keysAnswer();
+    void buttonsAnswer_data();
+    void buttonsAnswer();
     void spaceIsNoAnswer();
 
     // What follows
@@ -35,8 +37,6 @@ private slots:
 private:
     /// `ask` opens the question once; it is answered with no.
     void expectQuestion(const QString& text, const QString& acceptLabel, const std::function<void()>& ask);
-    /// Presses that button when the question comes.
-    void answer(QMessageBox::ButtonRole role);
     /// Moves the power button; the active preset and the power stay.
     void movePower(int key) const { QVERIFY(scene()->swapHeader(header(key), power())); }
 };
@@ -44,28 +44,19 @@ private:
 void TestHeaderQuestions::expectQuestion(const QString& text, const QString& acceptLabel,
                                          const std::function<void()>& ask)
 {
-    whenAsked([this, text, acceptLabel](QMessageBox& box) {
-        QCOMPARE(box.text(), text);
-        QCOMPARE(box.buttons().size(), 2);
+    whenAsked([this, text, acceptLabel](AlertWidget& alert) {
         QVERIFY(window->dialogOpen);
-        for (QAbstractButton* button : box.buttons())
-            QCOMPARE(button->text(), box.buttonRole(button) == QMessageBox::AcceptRole
-                                         ? acceptLabel
-                                         : QStringLiteral("Cancel"));
-        box.reject();
+        QCOMPARE(alert.box->title, QString());
+        QCOMPARE(alert.box->message, text);
+        QCOMPARE(alert.box->okText, acceptLabel);
+        QCOMPARE(alert.box->cancelText, QStringLiteral("Cancel"));
+        QCOMPARE(alert.box->type, alert_warning);
+        QCOMPARE(alert.parentWidget(), window.get());
+        alert.reject();
     });
     ask();
     QCOMPARE(seen, 1);
     QVERIFY(!window->dialogOpen);
-}
-
-void TestHeaderQuestions::answer(QMessageBox::ButtonRole role)
-{
-    whenAsked([role](QMessageBox& box) {
-        for (QAbstractButton* button : box.buttons())
-            if (box.buttonRole(button) == role)
-                button->click();
-    });
 }
 
 void TestHeaderQuestions::eraseAllAsks()
@@ -82,31 +73,25 @@ void TestHeaderQuestions::resetAllAsks()
                    QStringLiteral("Reset to Default"), [this] { presets().resetAll(); });
 }
 
-void TestHeaderQuestions::answers_data()
+void TestHeaderQuestions::keysAnswer_data()
 {
-    QTest::addColumn<QVector<int>>("keys");
+    QTest::addColumn<Qt::Key>("key");
     QTest::addColumn<bool>("accepted");
-    QTest::newRow("Escape") << QVector<int>{Qt::Key_Escape} << false;
-    QTest::newRow("Enter takes Cancel") << QVector<int>{Qt::Key_Enter} << false;
-    QTest::newRow("Return takes Cancel") << QVector<int>{Qt::Key_Return} << false;
-    QTest::newRow("Enter on the other button") << QVector<int>{Qt::Key_Tab, Qt::Key_Enter} << true;
-    QTest::newRow("Return on the other button") << QVector<int>{Qt::Key_Tab, Qt::Key_Return} << true;
-    QTest::newRow("Escape on the other button") << QVector<int>{Qt::Key_Tab, Qt::Key_Escape} << false;
+    QTest::newRow("Return") << Qt::Key_Return << true;
+    QTest::newRow("Enter") << Qt::Key_Enter << true;
+    QTest::newRow("Escape") << Qt::Key_Escape << false;
 }
 
-void TestHeaderQuestions::answers()
+void TestHeaderQuestions::keysAnswer()
 {
-    QFETCH(QVector<int>, keys);
+    QFETCH(Qt::Key, key);
     QFETCH(bool, accepted);
     show();
     record(25) = fullRecord();
-    const auto reply = [&](QMessageBox& box) {
-        QVERIFY(QTest::qWaitForWindowActive(&box));
-        for (const int key : keys)
-            QTest::keyClick(box.focusWidget() ? box.focusWidget() : &box, static_cast<Qt::Key>(key));
-        QVERIFY(!box.isVisible());
-    };
-    whenAsked(reply);
+    whenAsked([key](AlertWidget& alert) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        QVERIFY(alert.isHidden());
+    });
     presets().eraseAll();
     QCOMPARE(seen, 1);
     QCOMPARE(record(25).scaleOn, !accepted);
@@ -114,16 +99,32 @@ void TestHeaderQuestions::answers()
     QVERIFY(window->isVisible()); // the key did not reach it
 }
 
+void TestHeaderQuestions::buttonsAnswer_data()
+{
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("accepting") << true;
+    QTest::newRow("cancelling") << false;
+}
+
+void TestHeaderQuestions::buttonsAnswer()
+{
+    QFETCH(bool, accepted);
+    record(25) = fullRecord();
+    answer(accepted);
+    presets().eraseAll();
+    QCOMPARE(seen, 1);
+    QCOMPARE(record(25).scaleOn, !accepted);
+}
+
 void TestHeaderQuestions::spaceIsNoAnswer()
 {
     show();
     record(25) = fullRecord();
-    whenAsked([this](QMessageBox& box) {
-        QVERIFY(QTest::qWaitForWindowActive(&box));
-        QTest::keyClick(box.focusWidget(), Qt::Key_Space);
+    whenAsked([this](AlertWidget& alert) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QVERIFY(!power()->isSwitchOn());
-        QVERIFY(box.isVisible());
-        box.reject();
+        QVERIFY(alert.isVisible());
+        alert.reject();
     });
     presets().eraseAll();
     QCOMPARE(seen, 1);
@@ -137,7 +138,7 @@ void TestHeaderQuestions::eraseAllClearsEverything()
     window->setPower(true);
     setScale(lydian);
     record(25) = fullRecord();
-    answer(QMessageBox::AcceptRole);
+    answer(on);
     presets().eraseAll(); // needs no context header
     QVERIFY(!tonic().switchOn && !scale().switchOn);
     QCOMPARE(scale().scaleModifier(), lydian);
@@ -152,13 +153,13 @@ void TestHeaderQuestions::controlRResets()
 {
     show();
     record(lowest) = fullRecord();
-    answer(QMessageBox::AcceptRole);
+    answer(on);
     QTest::keyClick(window.get(), Qt::Key_R, Qt::ControlModifier);
     QCOMPARE(seen, 1);
     QCOMPARE(asText(record(lowest)), asText(factoryRow(0)));
     window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(window.get()));
-    answer(QMessageBox::RejectRole);
+    answer(off);
     record(lowest) = fullRecord();
     QTest::keyClick(window.get(), Qt::Key_R, Qt::ControlModifier);
     QCOMPARE(seen, 2);
@@ -175,7 +176,7 @@ void TestHeaderQuestions::resetAllWritesTheFactoryRows()
     library().clear();
     for (HeaderItem* item : qAsConst(presets().headers))
         item->record = fullRecord();
-    answer(QMessageBox::AcceptRole);
+    answer(on);
     presets().resetAll();
     for (int i = 0; i < 36; ++i)
         QCOMPARE(asText(presets().headers.at(i)->record), fresh.at(i));
@@ -187,7 +188,7 @@ void TestHeaderQuestions::resetAllPlacesThePowerButton()
 {
     for (int i = 0; i < 2; ++i) { // the second time it is there already
         power()->setPos(0, 0);
-        answer(QMessageBox::AcceptRole);
+        answer(on);
         presets().resetAll();
         QCOMPARE(key_roles::pitch(power()), 61); // the key below the point (407, 28)
         QCOMPARE(power()->pos(), window->findInNote(61)->pos() + QPointF(-4, -18));
@@ -216,7 +217,7 @@ void TestHeaderQuestions::resetAllLoadsTheActiveHeader()
     recall(key, false);
     setTonic("D");
     setScale(wholeTone);
-    answer(QMessageBox::AcceptRole);
+    answer(on);
     presets().resetAll();
     QCOMPARE(active(), key);
     QCOMPARE(tonic().switchOn, row.tonicOn);
@@ -239,7 +240,7 @@ void TestHeaderQuestions::resetAllWithoutAnActiveHeader()
     header(firstActive)->setStatus(header_deactive);
     presets().activeHeader = nullptr;
     record(lowest) = fullRecord();
-    answer(QMessageBox::AcceptRole);
+    answer(on);
     presets().resetAll();
     QCOMPARE(asText(record(lowest)), asText(factoryRow(0)));
     QCOMPARE(tonic().tonicModifier(), QStringLiteral("D"));
@@ -260,7 +261,7 @@ void TestHeaderQuestions::resetAllKeepsThePower()
     window->setPower(powered);
     movePower(61); // shows the button as on
     placeAnchors(-34);
-    answer(QMessageBox::AcceptRole);
+    answer(on);
     presets().resetAll();
     QCOMPARE(power()->isSwitchOn(), powered);
     QVERIFY(shows(power(), powered ? QStringLiteral(":/Resources/Power/POWERBUTTONOn.png")

@@ -3,6 +3,9 @@
 #include "StageFixture.h"
 
 #include "keys/pictures.h"
+#include "screen/AlertWidget.h"
+
+#include <QTimer>
 
 namespace {
 
@@ -31,6 +34,21 @@ void StageFixture::openStage()
     hand = std::make_unique<Hand>(window->ui.inKeyboardGraphicsView);
     outHand = std::make_unique<Hand>(window->ui.outKeyboardGraphicsView);
     soundingNow.clear();
+    dialogsSeen = 0;
+}
+
+void StageFixture::sendDialogsAway()
+{
+    auto* poll = new QTimer(window.get());
+    connect(poll, &QTimer::timeout, this, [this] {
+        const auto dialogs = window->findChildren<AbstractDialog*>(QString(), Qt::FindDirectChildrenOnly);
+        for (AbstractDialog* dialog : dialogs)
+            if (dialog->isVisible() && !qobject_cast<AlertWidget*>(dialog)) {
+                ++dialogsSeen;
+                dialog->reject();
+            }
+    });
+    poll->start(1);
 }
 
 DiagramScene* StageFixture::outScene() const

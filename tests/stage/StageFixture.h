@@ -36,6 +36,9 @@ protected:
     /// One data row for each state of the power, in the column "switchedOn".
     static void addPowers();
     void chooseMap(bool switchedOn, const QString& word) const;
+    /// From now on the dialogs that a double click on a flag brings up are sent away at once.
+    void sendDialogsAway();
+    int dialogsSeen = 0;
     /// Every preset's record, by the order of the black keys.
     QStringList records() const;
     /// Whether the power button wears the pictures of these states, each laid upon the one before.

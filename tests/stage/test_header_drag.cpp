@@ -35,6 +35,7 @@ private slots:
 void TestHeaderDrag::init()
 {
     openStage();
+    sendDialogsAway();
     window->setPower(true);
 }
 
@@ -221,6 +222,7 @@ void TestHeaderDrag::secondPressOfADoubleClickRecallsAndDoesNotDrag()
     hand->click(boxOf(25));
     recall(27);
     hand->pressAgain(boxOf(25));
+    QCOMPARE(dialogsSeen, 1); // the names of the played scale are asked for
     QCOMPARE(active(), 25);
     const QStringList before = state();
     hand->glideTo(stemOf(32));

@@ -2,9 +2,9 @@
 // menu is asked for.
 
 #include "GestureFixture.h"
+#include "screen/AlertWidget.h"
 
 #include <QMenu>
-#include <QMessageBox>
 #include <QtTest>
 
 class TestOvertakenGestures : public GestureFixture
@@ -118,10 +118,10 @@ void TestOvertakenGestures::questionEndsTheGestureBeforeItIsAsked()
     begin(gesture);
     QString faults = QStringLiteral("not asked");
     QSet<int> heard;
-    whenAsked([&](QMessageBox& box) {
+    whenAsked([&](AlertWidget& alert) {
         faults = unrest();
         heard = sounding();
-        box.reject();
+        alert.reject();
     });
     QTest::keyClick(window.get(), Qt::Key_R, Qt::ControlModifier);
     QCOMPARE(seen, 1);
@@ -137,11 +137,7 @@ void TestOvertakenGestures::acceptedQuestionFindsEverythingAtHome()
     window->setPower(true);
     recall(25);
     hand->drag(powerSleeve(), stemOf(32));
-    whenAsked([](QMessageBox& box) {
-        for (QAbstractButton* button : box.buttons())
-            if (box.buttonRole(button) == QMessageBox::AcceptRole)
-                button->click();
-    });
+    answer(true);
     presets().resetAll();
     QCOMPARE(seen, 1);
     activate();

@@ -280,6 +280,7 @@ void TestRandomGestures::nothingIsLeftBehind()
     QFETCH(int, seed);
     QFETCH(bool, withoutChanges);
     qInfo("seed %d", seed);
+    sendDialogsAway();
     random.seed(static_cast<unsigned>(seed));
     calm = withoutChanges;
     events = 0;

@@ -44,15 +44,6 @@ void paintDisplay(QPainter& p)
     p.fillRect(QRectF(frame.left() + 4, frame.bottom() + 1, frame.width() - 8, 1), withAlpha(Qt::white, 90));
 }
 
-void paintScrew(QPainter& p, QPointF centre)
-{
-    const QRectF head(centre.x() - 3.5, centre.y() - 3.5, 7, 7);
-    brush::fillRound(p, head.adjusted(-0.8, -0.3, 0.8, 1.3), 4, withAlpha(Qt::black, 70));
-    brush::fillRound(p, head, 3.5, vertical(head, palette::metalLight, palette::metalEdge));
-    p.setPen(QPen(palette::gap, 1));
-    p.drawLine(centre + QPointF(-2, -1), centre + QPointF(2, 1));
-}
-
 void paintPanel(QPainter& p, const QRectF& area, QPointF octave, const QString& caption)
 {
     const QRectF plate = area.adjusted(0, -1, 0, 4);
@@ -103,7 +94,7 @@ void paintCase(QPainter& p)
     paintPlates(p);
     paintEngravings(p);
     for (const QPointF& place : {QPointF(13, 14), QPointF(13, 222), QPointF(13, 466), QPointF(943, 222)})
-        paintScrew(p, place);
+        brush::screw(p, place);
 }
 
 void paintCaseShadow(QPainter& p, int alpha)

@@ -66,6 +66,15 @@ void glow(QPainter& painter, const QRectF& area, double radius, const QColor& co
     }
 }
 
+void screw(QPainter& painter, const QPointF& centre)
+{
+    const QRectF head(centre.x() - 3.5, centre.y() - 3.5, 7, 7);
+    fillRound(painter, head.adjusted(-0.8, -0.3, 0.8, 1.3), 4, withAlpha(Qt::black, 70));
+    fillRound(painter, head, 3.5, vertical(head, palette::metalLight, palette::metalEdge));
+    painter.setPen(QPen(palette::gap, 1));
+    painter.drawLine(centre + QPointF(-2, -1), centre + QPointF(2, 1));
+}
+
 void text(QPainter& painter, const QRectF& area, const QString& words, int pixelSize, bool bold,
           const QColor& color, int alignment, double spacing)
 {

@@ -18,6 +18,8 @@ void strokeRound(QPainter& painter, const QRectF& area, double radius, const QCo
 void recess(QPainter& painter, const QRectF& area, double radius, const QColor& top, const QColor& bottom);
 /// A soft light around an area.
 void glow(QPainter& painter, const QRectF& area, double radius, const QColor& color, int alpha);
+/// The head of a screw that holds a plate, seven pixels across.
+void screw(QPainter& painter, const QPointF& centre);
 void text(QPainter& painter, const QRectF& area, const QString& words, int pixelSize, bool bold,
           const QColor& color, int alignment = Qt::AlignCenter, double spacing = 0);
 

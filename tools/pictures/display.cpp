@@ -84,7 +84,7 @@ void paintPortView(QPainter& p)
         brush::strokeRound(p, area, 3, withAlpha(palette::ink, 130));
     };
     list(QRectF(8, 27, 189, 79), QStringLiteral("MIDI IN"));
-    list(QRectF(205, 27, 179, 79), QStringLiteral("MIDI OUT"));
+    list(QRectF(205, 27, 164, 79), QStringLiteral("MIDI OUT"));
 }
 
 } // namespace

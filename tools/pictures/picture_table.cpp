@@ -12,6 +12,10 @@ const std::vector<Picture>& allPictures()
         addAnchorPictures(pictures);
         addSelectorPictures(pictures);
         addDisplayPictures(pictures);
+        addLibraryPictures(pictures);
+        addLibraryButtons(pictures);
+        addGamePictures(pictures);
+        addDialogPictures(pictures);
         addDigitSheets(pictures);
         return pictures;
     }();

@@ -31,4 +31,8 @@ void addBars(std::vector<Picture>& table);
 void addAnchorPictures(std::vector<Picture>& table);
 void addSelectorPictures(std::vector<Picture>& table);
 void addDisplayPictures(std::vector<Picture>& table);
+void addLibraryPictures(std::vector<Picture>& table);
+void addLibraryButtons(std::vector<Picture>& table);
+void addGamePictures(std::vector<Picture>& table);
+void addDialogPictures(std::vector<Picture>& table);
 void addDigitSheets(std::vector<Picture>& table);
