@@ -36,7 +36,7 @@ void nameProgram()
 
 QString versionLine()
 {
-    return QCoreApplication::translate("main", "Sorvane %1, <a href=\"%2\">%2</a>")
+    return QCoreApplication::translate("main", "Sorvane %1, <a style=\"color: #575450\" href=\"%2\">%2</a>")
         .arg(QString::fromLatin1(sorvaneVersion), QString::fromLatin1(vendor::site));
 }
 

@@ -13,8 +13,8 @@
 namespace {
 
 constexpr int selectDelayMs = 200;
-const QPointF portBackgroundPos(320, 15);   // in the scene
-const QRect inListPlace(214, 196, 185, 80); // in the form
+const QPointF portBackgroundPos(320, 15);    // in the scene
+const QRect inListPlace(214, 196, 185, 80);  // in the form
 const QRect outListPlace(411, 196, 160, 80); // as far as the paper note
 
 } // namespace
@@ -32,6 +32,7 @@ PortListWidget* CenterScreen::createPortList(const QRect& place, const QString& 
     list->setGeometry(place);
     list->setAccessibleName(name);
     list->setToolTip(tr("Click a port to open or close it; several can be open at once"));
+    list->ensurePolished(); // else the scroll bars miss their part of the sheet
     list->setStyleSheet(style);
     connect(mainWnd, &MainWnd::specialKeyPressed, list, &PortListWidget::specialKeyPress);
     connect(list, &PortListWidget::left, mainWnd, &MainWnd::focusInKeyboard);

@@ -144,6 +144,7 @@ void LibraryView::dressLists()
     const QString style = textOf(":/Resources/LibraryScreen/Library_list-mac.qss");
     for (AbstractListWidget* list :
          {static_cast<AbstractListWidget*>(categories), static_cast<AbstractListWidget*>(scales)}) {
+        list->ensurePolished(); // else the scroll bars miss their part of the sheet
         list->setStyleSheet(style);
         list->setItemHeight(rowHeight);
     }
@@ -156,6 +157,7 @@ void LibraryView::dressLists()
 void LibraryView::dressDescription()
 {
     description->setGeometry(descriptionPlace.translated(formOfScene));
+    description->ensurePolished();
     description->setStyleSheet(textOf(":/Resources/LibraryScreen/Library_descr.qss"));
     description->setFocusPolicy(Qt::NoFocus);
     description->setFrameShape(QFrame::NoFrame);
