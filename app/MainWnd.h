@@ -94,7 +94,7 @@ public:
                                             const QRect& rectangle) const;
     /// Numbers the square of a scale degree, 0 to 11, with 1 to 12; ordinal 0 leaves it blank.
     void showScaleSquare(int degree, int ordinal);
-    /// Ends what the pointer holds on the stage, before something takes the pointer away.
+    /// Ends what the pointer holds on the stage and in the library, before something takes the pointer away.
     void endGestures();
 
     // MIDI (MainWnd_midi.cpp)
@@ -262,6 +262,7 @@ private:
     QList<QGraphicsItem*> selectorItems; ///< what sleeps with the power off
     QList<QList<int>> waitingMessages;   ///< received and not yet played
     bool holdMessages = false;
+    bool freshKey = false; ///< a key press is coming that no filter has seen
     std::array<QGraphicsPixmapItem*, 12> scaleSquares{};
     std::array<QPixmap, 13> squarePlates; ///< by ordinal; 0 is blank
     std::array<QPixmap, 13> barDigits;    ///< by degree number; 0 is blank

@@ -3,6 +3,7 @@
 #include "app/MainWnd.h"
 
 #include "app/vendor.h"
+#include "app/version.h"
 #include "keys/ScaleKeyController.h"
 #include "keys/pictures.h"
 #include "screen/CategoryListWidget.h"
@@ -90,6 +91,7 @@ void MainWnd::createSceneCenter()
                           .trimmed());
     centerScreen->creditLines =
         CenterScreen::parseCreditFile(QStringLiteral(":/Resources/CreditsScreen/CreditsData.txt"));
+    centerScreen->creditLines.replaceInStrings(QStringLiteral("@VERSION@"), QLatin1String(sorvaneVersion));
     ui.centerLogo->setPixmap(pictures::load(QStringLiteral(":/Resources/CenterScreen/Sorvane-Logo-CM.png")));
     const QString style =
         CenterScreen::getMainTextData(QStringLiteral(":/Resources/CenterScreen/button.qss"));

@@ -8,6 +8,9 @@
 #include "keys/key_roles.h"
 #include "keys/pictures.h"
 #include "keys/pitch_mapping.h"
+#include "screen/CenterScreen.h"
+#include "screen/LibraryView.h"
+#include "screen/ScaleListWidget.h"
 
 #include <QGraphicsPixmapItem>
 
@@ -178,4 +181,7 @@ void MainWnd::endGestures()
 {
     for (const QGraphicsView* view : {ui.inKeyboardGraphicsView, ui.outKeyboardGraphicsView})
         static_cast<DiagramScene*>(view->scene())->loseHand();
+    ScaleListWidget* list = centerScreen->libraryView()->scales;
+    if (list->isDragging())
+        list->dragCancel();
 }

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -49,6 +50,8 @@ bool MainWnd::eventFilter(QObject* object, QEvent* event)
         list->dragButton(*mouse, mouse->localPos().toPoint());
         return true;
     }
+    if (event->type() == QEvent::ShortcutOverride)
+        freshKey = true; // comes once or more before each press
     if (event->type() == QEvent::KeyPress && filterKeyPress(event))
         return true;
     return QDialog::eventFilter(object, event);
@@ -81,7 +84,10 @@ bool MainWnd::filterKeyPress(QEvent* event)
     const auto* press = static_cast<QKeyEvent*>(event);
     const int key = press->key();
     const bool inDialog = dialogOpen;
-    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape)
+    const bool special = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape;
+    // A press comes by here several times: for the window, the widget, and each parent if it is ignored.
+    const bool first = std::exchange(freshKey, false);
+    if (special && first && !press->isAutoRepeat())
         emit specialKeyPressed(key);
     if (key == Qt::Key_Space) {
         // A space bar that is held down must not flutter the power.

@@ -222,7 +222,7 @@ bool AbstractDialog::eventFilter(QObject* object, QEvent* event)
         return QWidget::eventFilter(object, event);
     popupHadKey = isInPopup(object) || QApplication::activePopupWidget();
     // The window's filter takes the key press of a space for itself; this event comes before it.
-    if (!fields.contains(static_cast<QWidget*>(object)) || !isPlainSpace(*static_cast<QKeyEvent*>(event)) ||
+    if (!fields.contains(qobject_cast<QWidget*>(object)) || !isPlainSpace(*static_cast<QKeyEvent*>(event)) ||
         !typeSpace(object))
         return false;
     event->accept();

@@ -108,6 +108,8 @@ void AbstractListWidget::showRemark(const QString& text)
 
 void AbstractListWidget::keyPressEvent(QKeyEvent* event)
 {
+    if (dragging)
+        return; // the row in the hand must stay where it is
     const int key = event->key();
     const bool copyOrMove =
         event->modifiers() == Qt::ControlModifier && (key == Qt::Key_C || key == Qt::Key_X);

@@ -101,7 +101,6 @@ void CenterScreen::updateNameItems(const QString& category, int index)
 void CenterScreen::updateSceneDescr(const QString& key)
 {
     playedWord = describedWord = key;
-    updateBrowser();
 }
 
 void CenterScreen::showDescription()

@@ -18,6 +18,7 @@ void CenterScreen::addLibraryView()
         return;
     samplePage = getMainTextData(QStringLiteral(":/Resources/LibraryScreen/Sample-descr.html"));
     view = std::make_unique<LibraryView>(*scene, window);
+    setLibraryAccess(false);
     connect(view->categories, &QListWidget::itemPressed, this, &CenterScreen::categoryListItemClicked);
     connect(view->categories, &QListWidget::itemDoubleClicked, this, &CenterScreen::editCategory);
     connect(view->scales, &QListWidget::itemPressed, this, &CenterScreen::scaleListItemClicked);

@@ -7,7 +7,6 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 #include <QTextEdit>
 
@@ -20,31 +19,10 @@ constexpr int messageWidth = 354; // breaks its lines before the list of signs
 constexpr int textMargin = 2;     // as line edits have it
 constexpr int rowSpacing = 6, columnSpacing = 8, buttonSpacing = 10;
 
-const QColor arrowInk(0x57, 0x54, 0x50);
-
 const QString goodStyle = QStringLiteral("QLineEdit { border-width: 0px; color: black; }");
 const QString badStyle = QStringLiteral("QLineEdit { border-width: 2px; border-color: red; color: red; "
                                         "selection-background-color: rgb(255, 187, 184); }");
 const QString noMessage = QStringLiteral(" ");
-
-/// The style sheet takes the style's own arrow away.
-class ArrowBox : public QComboBox
-{
-public:
-    using QComboBox::QComboBox;
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        QComboBox::paintEvent(event);
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(arrowInk);
-        painter.translate(width() - 12, height() / 2.0);
-        painter.drawPolygon(QPolygonF({{-4, -2}, {4, -2}, {0, 3}}));
-    }
-};
 
 bool mayBeShortName(const QString& text)
 {
@@ -56,7 +34,7 @@ bool mayBeShortName(const QString& text)
 ScaleFields::ScaleFields(Asks asks, QWidget* parent)
     : QWidget(parent), title(new QLineEdit(this)), abbr1(new QLineEdit(QStringLiteral("User"), this)),
       abbr2(new QLineEdit(QStringLiteral("1"), this)),
-      category(asks == Asks::withCategory ? new ArrowBox(this) : nullptr), description(new QTextEdit(this)),
+      category(asks == Asks::withCategory ? new QComboBox(this) : nullptr), description(new QTextEdit(this)),
       message(new QLabel(noMessage, this)), first{abbr1, abbr1->text()}, second{abbr2, abbr2->text()}
 {
     dressFields();
