@@ -35,6 +35,13 @@ constexpr KeyRow keyRows[] = {
     {Qt::Key_X, noButton, LibraryButton::move_scale},
 };
 
+/// A name as an alert has room for it.
+QString shortened(const QString& name)
+{
+    constexpr int room = 40; // characters
+    return name.size() <= room ? name : name.left(room - 1) + QChar(0x2026);
+}
+
 bool isBlank(const QString& text)
 {
     return text.trimmed().isEmpty();
@@ -155,7 +162,7 @@ bool CenterScreen::confirmDelete(const QString& name)
 {
     return mainWnd->confirmAlert(tr("<h4>Are you sure you want to delete <br/>&quot;%1&quot;?</h4>"
                                     "<h6>You can't undo this action.</h6>")
-                                     .arg(name.toHtmlEscaped()),
+                                     .arg(shortened(name).toHtmlEscaped()),
                                  tr("Delete"));
 }
 
