@@ -181,6 +181,8 @@ void MainWnd::endGestures()
 {
     for (const QGraphicsView* view : {ui.inKeyboardGraphicsView, ui.outKeyboardGraphicsView})
         static_cast<DiagramScene*>(view->scene())->loseHand();
+    if (QGraphicsItem* item = ui.centerGraphicsView->scene()->mouseGrabberItem())
+        item->ungrabMouse();
     ScaleListWidget* list = centerScreen->libraryView()->scales;
     if (list->isDragging())
         list->dragCancel();

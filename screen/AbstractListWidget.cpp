@@ -42,7 +42,7 @@ Qt::DropActions AbstractListWidget::supportedDropActions() const
 void AbstractListWidget::dragStart(QMimeData* payload, const QPixmap& pixmap)
 {
     dragData.reset(payload);
-    dragPicture = std::make_unique<QLabel>(window());
+    dragPicture = new QLabel(window());
     dragPicture->setAttribute(Qt::WA_TransparentForMouseEvents);
     dragPicture->setPixmap(pixmap);
     dragPicture->adjustSize();
@@ -62,7 +62,11 @@ void AbstractListWidget::moveDragPicture(const QPoint& globalPos)
 void AbstractListWidget::dragFinish()
 {
     dragging = false;
-    dragPicture.reset();
+    if (dragPicture) {
+        dragPicture->hide();
+        dragPicture->deleteLater(); // the window may be telling its children something just now
+        dragPicture = nullptr;
+    }
     showIndicator(false, -1);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QListWidget>
+#include <QPointer>
 
 #include <memory>
 
@@ -69,5 +70,5 @@ protected:
 private:
     int rowHeight = 14;
     bool dragging = false;
-    std::unique_ptr<QLabel> dragPicture;
+    QPointer<QLabel> dragPicture; ///< the window's
 };

@@ -50,7 +50,7 @@ bool CategoryListWidget::takes(int row, const QMimeData* mime) const
 {
     const QString target = keyAt(row);
     const scale_payload payload = unpackPayload(mime, customMimeType());
-    return !target.isEmpty() && payload.index >= 0 && target != payload.category &&
+    return !target.isEmpty() && payload.index >= 0 && !payload.word.isEmpty() && target != payload.category &&
            mainWnd->library.indexOfScaleFromCategory(target, payload.word, 0) < 0;
 }
 

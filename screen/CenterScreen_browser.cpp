@@ -80,6 +80,7 @@ void CenterScreen::updateCategoryItems()
 void CenterScreen::updateNameItems(const QString& category, int index)
 {
     ScaleListWidget& list = *view->scales;
+    list.category = category;
     std::vector<std::pair<QString, QString>> rows;
     const QList<QString> words = mainWnd->library.scalesFromCategory(category);
     for (const QString& word : words) {

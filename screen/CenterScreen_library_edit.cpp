@@ -39,7 +39,10 @@ constexpr KeyRow keyRows[] = {
 QString shortened(const QString& name)
 {
     constexpr int room = 40; // characters
-    return name.size() <= room ? name : name.left(room - 1) + QChar(0x2026);
+    if (name.size() <= room)
+        return name;
+    const bool splitsPair = name.at(room - 2).isHighSurrogate();
+    return name.left(splitsPair ? room - 2 : room - 1) + QChar(0x2026);
 }
 
 bool isBlank(const QString& text)

@@ -49,12 +49,12 @@ void EditWindow::setName(const QString& text)
 
 void EditWindow::setAbbr1(const QString& text)
 {
-    form->setAbbr1(text);
+    form->keepAbbr1(text);
 }
 
 void EditWindow::setAbbr2(const QString& text)
 {
-    form->setAbbr2(text);
+    form->keepAbbr2(text);
 }
 
 void EditWindow::setDescription(const QString& text)

@@ -19,8 +19,9 @@ public:
     [[nodiscard]] QString description() const;
 
     void setName(const QString& text);
-    void setAbbr1(const QString& text); ///< cut to what fits
-    void setAbbr2(const QString& text); ///< cut to what fits
+    // As they are: a name of the factory may be wider than the user's may, and stays if it is not touched.
+    void setAbbr1(const QString& text);
+    void setAbbr2(const QString& text);
     void setDescription(const QString& text);
 
 public slots:

@@ -76,7 +76,7 @@ void LibraryButton::mousePressEvent(QGraphicsSceneMouseEvent* event)
 
 void LibraryButton::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
 {
-    if (event->buttons() & Qt::LeftButton)
+    if ((event->buttons() & Qt::LeftButton) && !mainWnd->dialogOpen)
         showPressed(contains(event->pos()));
 }
 
@@ -84,7 +84,7 @@ void LibraryButton::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    const bool acts = pressed && contains(event->pos());
+    const bool acts = pressed && contains(event->pos()) && !mainWnd->dialogOpen;
     setPlain();
     if (acts)
         mainWnd->centerScreen->carryOut(code);

@@ -18,8 +18,8 @@ constexpr int rowHeight = 14;
 // In the scene; the widgets stand in the form.
 constexpr QPoint formOfScene(-116, 152);
 constexpr QPoint backgroundPlace(186, 15), markPlace(583, 20);
-constexpr QRect categoriesPlace(193, 39, 148, 82), scalesPlace(349, 39, 132, 82),
-    trackerPlace(482, 38, 6, 84), descriptionPlace(491, 43, 178, 73);
+constexpr QRect categoriesPlace(193, 38, 148, 84), scalesPlace(349, 38, 132, 84),
+    trackerPlace(482, 38, 6, 84), descriptionPlace(492, 43, 177, 73);
 
 struct ButtonRow
 {
@@ -163,7 +163,7 @@ void LibraryView::dressDescription()
     description->setFrameShape(QFrame::NoFrame);
     description->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     description->setOpenLinks(false);
-    description->document()->setDocumentMargin(2);
+    description->document()->setDocumentMargin(0.5);
     description->setAccessibleName(say(QT_TRANSLATE_NOOP("LibraryView", "Description of the scale")));
     description->setToolTip(say(QT_TRANSLATE_NOOP("LibraryView", "Click to edit the description")));
 }

@@ -161,18 +161,28 @@ QString ScaleFields::findRightAbbrText(const QString& text)
 
 void ScaleFields::setAbbr1(const QString& text)
 {
-    put(first, text);
+    put(first, findRightAbbrText(text));
 }
 
 void ScaleFields::setAbbr2(const QString& text)
+{
+    put(second, findRightAbbrText(text));
+}
+
+void ScaleFields::keepAbbr1(const QString& text)
+{
+    put(first, text);
+}
+
+void ScaleFields::keepAbbr2(const QString& text)
 {
     put(second, text);
 }
 
 void ScaleFields::put(ShortName& changed, const QString& text)
 {
-    changed.lastGood = findRightAbbrText(text);
-    changed.edit->setText(changed.lastGood);
+    changed.lastGood = text;
+    changed.edit->setText(text);
 }
 
 void ScaleFields::setCurrentCategory(const QString& name)

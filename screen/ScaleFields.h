@@ -23,8 +23,12 @@ public:
     [[nodiscard]] static QString findRightAbbrText(const QString& text);
 
     // From code; no message comes
+    /// Cut to what fits.
     void setAbbr1(const QString& text);
     void setAbbr2(const QString& text);
+    /// As they are, so that a record that is edited keeps what the user does not touch.
+    void keepAbbr1(const QString& text);
+    void keepAbbr2(const QString& text);
     void setCurrentCategory(const QString& name);
     void setCategoryList(const QStringList& names);
 

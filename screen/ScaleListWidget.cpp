@@ -57,7 +57,6 @@ void ScaleListWidget::dragStart(int row, Qt::DropAction action)
     const QString word = keyAt(row);
     if (word.isEmpty())
         return;
-    const QString category = mainWnd->library.currentCategory();
     auto* payload = packPayload({category, word, item(row)->text(), row}, customMimeType());
     dragAction = action;
     AbstractListWidget::dragStart(payload, pixmapForDragging(row, visualItemRect(item(row)).size()));
@@ -121,29 +120,35 @@ bool ScaleListWidget::dropData(int index, const QMimeData* mime)
 {
     DatabaseLibrary& library = mainWnd->library;
     const scale_payload payload = unpackPayload(mime, customMimeType());
-    const QString current = library.currentCategory();
-    if (index < 0 || library.scaleFromCategory(payload.category, payload.index) != payload.word ||
-        payload.word.isEmpty())
+    if (index < 0 || payload.word.isEmpty() ||
+        library.scaleFromCategory(payload.category, payload.index) != payload.word)
         return false;
-    int to = index;
-    if (payload.category == current) {
-        to = qMin(index > payload.index ? index - 1 : index, library.scalesCountFromCategory(current) - 1);
-        if (to == payload.index)
-            return false;
-        library.moveScale(payload.index, to, current);
-    } else {
-        to = library.insertScaleToCategory(current, index, payload.word);
-        if (to < 0)
-            return false;
-    }
-    library.setCurrentScaleIndex(current, to);
+    const bool reorders = payload.category == category;
+    const int to = reorders ? reorder(payload.index, index)
+                            : library.insertScaleToCategory(category, index, payload.word);
+    if (to < 0)
+        return false;
+    library.setCurrentCategory(category); // a note may have left it
+    library.setCurrentScaleIndex(category, to);
     mainWnd->centerScreen->refreshBrowser();
     mainWnd->checkScaleMatches(true);
-    if (payload.category == current)
+    if (reorders)
         emit itemMoved(payload.index, to);
     else
         emit itemInserted(to);
     return true;
+}
+
+/// The row's new index; -1 if it stays where it is.
+int ScaleListWidget::reorder(int from, int before) const
+{
+    DatabaseLibrary& library = mainWnd->library;
+    const int last = library.scalesCountFromCategory(category) - 1;
+    const int to = qMin(before > from ? before - 1 : before, last);
+    if (to == from)
+        return -1;
+    library.moveScale(from, to, category);
+    return to;
 }
 
 void ScaleListWidget::specialKeyPress(int key)

@@ -15,6 +15,7 @@ public:
     // Rows; `index` is the scale's in its category
     void updateItem(QListWidgetItem* item, int index, const QString& word, const QString& title);
     void insertItem(int index, const QString& word, const QString& title);
+    QString category; ///< whose scales the rows are
 
     // Drag
     /// The row as the list paints it, on a plate of that size.
@@ -31,8 +32,8 @@ public:
     void showIndicator(bool show, int index) override;
     /// Takes the drag that is under way.
     bool dropData(const QPoint& pos);
-    /// Moves the payload's scale before row `index` of the current category, or copies it there from another
-    /// one. False if it is refused.
+    /// Moves the payload's scale before row `index` of the category that shows, or copies it there from
+    /// another one. False if it is refused.
     bool dropData(int index, const QMimeData* mime);
 
 public slots:
@@ -57,6 +58,7 @@ protected:
 private:
     [[nodiscard]] CategoryListWidget* categories() const;
     void trackDrag(const QPoint& globalPos);
+    [[nodiscard]] int reorder(int from, int before) const;
     void cancelLostDrag();
 
     AbstractListWidget* const categoryList;

@@ -75,8 +75,6 @@ void paintButton(QPainter& p, ButtonLook look)
 
 void paintPortView(QPainter& p)
 {
-    const QRectF pane(0, 0, 398, 107);
-    p.fillRect(pane.adjusted(0, 4, -3, 0), palette::display);
     const auto list = [&p](const QRectF& area, const QString& caption) {
         brush::text(p, QRectF(area.left() + 2, 13, area.width(), 13), caption, 10, true, palette::ink,
                     Qt::AlignLeft | Qt::AlignVCenter, 1);
