@@ -1,5 +1,7 @@
 #include "app/CommandLine.h"
 
+#include "library/scale_word.h"
+
 #include "keys/tonic_names.h"
 
 #include <QCommandLineParser>
@@ -45,12 +47,6 @@ QString tonicNames()
     for (const QString& name : tonicModifierName)
         names.append(name);
     return names.join(QLatin1Char(' '));
-}
-
-bool isScaleWord(const QString& word)
-{
-    static const QRegularExpression pattern(QStringLiteral("^x[xo]{11}$"));
-    return pattern.match(word).hasMatch() && word.size() == 12;
 }
 
 /// Fills the full names in; the text says what is wrong with the first name that fits none or several.

@@ -51,6 +51,8 @@ public:
     /// "Cancel".
     [[nodiscard]] bool confirmAlert(const QString& text, const QString& accept);
     [[nodiscard]] bool isPowerOn() const;
+    /// A dialog or a menu is open: keys mean that.
+    [[nodiscard]] bool isOccupied() const { return dialogOpen || QApplication::activePopupWidget(); }
     /// Keys select instead of sounding.
     [[nodiscard]] bool isLearning() const { return learnTonic || learnScale; }
     void createFloatingSwitches() {} ///< empty: there are no floating switches
@@ -109,6 +111,7 @@ public:
     /// Lets the pressed key be seen before a recall. MIDI messages that arrive meanwhile wait for the recall,
     /// in their order, so that the next note plays the new mapping.
     void showBeforeRecall();
+    [[nodiscard]] bool isRecalling() const { return holdMessages; }
 
     // Ports (MainWnd_ports.cpp)
     void scanMIDIPorts();

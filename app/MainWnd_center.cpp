@@ -149,12 +149,11 @@ void MainWnd::showLibraryScreen(bool show)
         centerScreen->setSceneLibrary();
         return;
     }
-    const bool listHadFocus = centerScreen->libraryOpen && !ui.inKeyboardGraphicsView->hasFocus();
     ui.scene1Button->raise();
     ui.scene2Button->raise();
     centerScreen->setScenePrevious();
     raiseWayBack();
-    if (listHadFocus)
+    if (centerScreen->currentScene != CenterScreen::scene_clean) // it has its own focus
         focusInKeyboard();
 }
 
@@ -264,7 +263,7 @@ void MainWnd::on_scene4RightButton_clicked()
 void MainWnd::clickFocusedButton(int key)
 {
     auto* button = qobject_cast<QPushButton*>(focusWidget());
-    if (key != Qt::Key_Escape && !dialogOpen && button && button->parent() == this && button->hasFocus())
+    if (key != Qt::Key_Escape && !isOccupied() && button && button->parent() == this && button->hasFocus())
         button->click();
 }
 

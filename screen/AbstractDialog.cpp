@@ -105,6 +105,7 @@ int AbstractDialog::exec()
     if (running().contains(this))
         return 0;
     wasAccepted = wasRejected = false;
+    focusBelow = QApplication::focusWidget();
     livingWindow()->endGestures();
     livingWindow()->dialogOpen = true;
     running().append(this);
@@ -164,10 +165,12 @@ void AbstractDialog::leave()
     const auto below = std::find_if(all.rbegin(), all.rend(),
                                     [](const AbstractDialog* dialog) { return dialog->isRunning(); });
     window->dialogOpen = below != all.rend();
-    if (window->dialogOpen)
-        (*below)->takeFocus();
-    else
+    if (!window->dialogOpen)
         window->ui.inKeyboardGraphicsView->setFocus(Qt::OtherFocusReason);
+    else if (focusBelow && (*below)->isAncestorOf(focusBelow))
+        focusBelow->setFocus(Qt::OtherFocusReason);
+    else
+        (*below)->takeFocus();
 }
 
 // One press, one answer: the window tells of a press once for each widget that it comes by, and the dialog

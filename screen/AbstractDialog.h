@@ -77,5 +77,6 @@ private:
     QPixmap panelPicture;
     QList<QWidget*> fields;
     QPointer<QWidget> firstFocus;
-    bool popupHadKey = false; ///< the last key was a popup's, which may be closed by now
+    QPointer<QWidget> focusBelow; ///< what had the focus when the run began
+    bool popupHadKey = false;     ///< the last key was a popup's, which may be closed by now
 };

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QMouseEvent>
 
 AbstractListWidget::AbstractListWidget(QWidget* parent)
     : QListWidget(parent), indicator(new QLabel(viewport()))
@@ -90,7 +91,8 @@ void AbstractListWidget::trackIndicator(const QPoint& pos, int except)
 void AbstractListWidget::dressItem(QListWidgetItem* item, const QString& text, const QString& key) const
 {
     item->setText(text);
-    item->setToolTip(text);
+    item->setToolTip(Qt::mightBeRichText(text) ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped())
+                                               : text);
     item->setData(Qt::UserRole, key);
     // Narrower than the list: a row is then as wide as the list and its text is elided.
     item->setSizeHint({1, rowHeight});
@@ -110,6 +112,24 @@ void AbstractListWidget::showRemark(const QString& text)
     remark->setSizeHint({1, rowHeight});
 }
 
+void AbstractListWidget::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        QListWidget::mousePressEvent(event);
+}
+
+void AbstractListWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons() == Qt::NoButton)
+        QListWidget::mouseMoveEvent(event);
+}
+
+void AbstractListWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        QListWidget::mouseDoubleClickEvent(event);
+}
+
 void AbstractListWidget::keyPressEvent(QKeyEvent* event)
 {
     if (dragging)
@@ -118,7 +138,7 @@ void AbstractListWidget::keyPressEvent(QKeyEvent* event)
     const bool copyOrMove =
         event->modifiers() == Qt::ControlModifier && (key == Qt::Key_C || key == Qt::Key_X);
     if (key == Qt::Key_Insert || key == Qt::Key_Delete || key == Qt::Key_F2 || copyOrMove) {
-        emit editKeyPressed(key, event->modifiers());
+        emit editKeyPressed(key);
         return;
     }
     const QListWidgetItem* before = currentItem();

@@ -55,9 +55,13 @@ public:
 
 signals:
     /// A key that stands for a button of the list (Insert, Delete, F2, Ctrl+C, Ctrl+X).
-    void editKeyPressed(int key, Qt::KeyboardModifiers modifiers);
+    void editKeyPressed(int key);
 
 protected:
+    // Only the left button means something; rows are not selected as the pointer passes them
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     /// Arrow keys choose a row as a press of the mouse does.
     void keyPressEvent(QKeyEvent* event) override;
     void moveDragPicture(const QPoint& globalPos);

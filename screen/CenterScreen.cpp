@@ -24,7 +24,12 @@ CenterScreen::CenterScreen(QGraphicsScene* centreScene, const Ui_SorvaneClass& u
     connect(creditTimer, &QTimer::timeout, this, &CenterScreen::moveCreditsText);
     browserTimer->setSingleShot(true);
     browserTimer->setInterval(browserDelayMs);
-    connect(browserTimer, &QTimer::timeout, this, &CenterScreen::refreshBrowser);
+    connect(browserTimer, &QTimer::timeout, this, [this] {
+        if (mainWnd->isRecalling())
+            browserTimer->start(); // notes wait behind the recall
+        else
+            refreshBrowser();
+    });
 }
 
 CenterScreen::~CenterScreen() = default;

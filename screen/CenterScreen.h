@@ -1,9 +1,9 @@
 #pragma once
 
-#include "library/scale_data.h"
 #include "screen/LibraryButton.h"
 
 #include <QListWidget>
+#include <QPointer>
 #include <QStringList>
 #include <QWidget>
 
@@ -13,6 +13,7 @@
 
 class LibraryView;
 class PortListWidget;
+class StageMenu;
 class QGraphicsScene;
 class QGraphicsTextItem;
 class QTimer;
@@ -100,7 +101,7 @@ public:
     void moveScale();
     void deleteScale();
     /// Edits a scale, or adds it to a category if it stands in none.
-    void openEditSceneDlg(const QString& word, int field);
+    void openEditSceneDlg(QString word, int field);
 
     QListWidget* inPortList = nullptr;
     QListWidget* outPortList = nullptr;
@@ -149,8 +150,8 @@ private:
     void editKey(bool inScales, int key);
     [[nodiscard]] bool confirmDelete(const QString& name);
     [[nodiscard]] QString askCategory(LibraryButton::Code at, const QString& word);
-    void addToLibrary(const QString& word, int field);
-    void storeScale(const scale_data& record);
+    void addToLibrary(QString word, int field);
+    void showStored(const QString& word);
 
     QGraphicsScene* const scene;
     const Ui_SorvaneClass& form;
@@ -159,8 +160,10 @@ private:
     std::unique_ptr<LibraryView> view;
     QTimer* const browserTimer;
     QString samplePage;
-    QString describedWord; ///< whose page shows
+    QPointer<StageMenu> categoryMenu; ///< while it is up
+    QString describedWord;            ///< whose page shows
     QString playedWord;
     Shown shown{-1, -1, -1, {}, {}};
     std::vector<std::pair<QString, QString>> shownScales;
+    QString shownPage;
 };

@@ -6,6 +6,7 @@
 #include "app/MainWnd.h"
 #include "headers/HeaderController.h"
 #include "keys/ScaleKeyController.h"
+#include "library/scale_word.h"
 #include "logging/categories.h"
 #include "screen/CategoryListWidget.h"
 #include "screen/DescriptionEditor.h"
@@ -59,7 +60,9 @@ void CenterScreen::refreshBrowser()
     if (now.revision != shown.revision)
         updateCategoryItems();
     view->categories->setCurrentRow(now.category);
-    updateNameItems(library.currentCategory(), now.scale);
+    if (now.revision != shown.revision || now.category != shown.category)
+        updateNameItems(library.currentCategory(), now.scale);
+    view->scales->setCurrentRow(now.scale);
     setGhostCopyButtonsEnabled(!current.isEmpty());
     if (now.revision != shown.revision || now.described != shown.described || now.played != shown.played)
         showDescription();
@@ -72,6 +75,11 @@ void CenterScreen::updateCategoryItems()
     const QVector<QString> names = mainWnd->library.categories();
     if (names.isEmpty())
         return list.showRemark(tr("(no categories)"));
+    QVector<QString> rows;
+    for (int row = 0; row < list.count(); ++row)
+        rows.append(list.keyAt(row));
+    if (rows == names)
+        return; // the list stays where it is scrolled to
     list.clear();
     for (int i = 0; i < names.size(); ++i)
         list.insertItem(i, names.at(i));
@@ -108,7 +116,10 @@ void CenterScreen::showDescription()
 {
     scale_data described, played;
     const bool known = mainWnd->library.getScaleData(describedWord, described, DatabaseLibrary::AnyRole);
-    view->description->setHtml(known ? descriptionPage(samplePage, described) : QString());
+    const QString page = known ? descriptionPage(samplePage, described) : QString();
+    if (page != shownPage)
+        view->description->setHtml(page);
+    shownPage = page;
     view->button(LibraryButton::edit_abbr1).setText(described.abbr1);
     view->button(LibraryButton::edit_abbr2).setText(described.abbr2);
     mainWnd->library.getScaleData(playedWord, played, DatabaseLibrary::AnyRole);
@@ -134,10 +145,11 @@ void CenterScreen::categoryListItemClicked(QListWidgetItem* item)
 void CenterScreen::scaleListItemClicked(QListWidgetItem* item)
 {
     DatabaseLibrary& library = mainWnd->library;
-    const QString category = library.currentCategory();
+    const QString category = view->scales->category; // what the hand saw, though a note may have left it
     const QString word = view->scales->keyAt(view->scales->row(item));
     if (word.isEmpty())
         return;
+    library.setCurrentCategory(category);
     library.setCurrentScaleIndex(category, library.indexOfScaleFromCategory(category, word, 0));
     describedWord = word;
     if (scaleSelector().switchOn)
@@ -154,6 +166,7 @@ void CenterScreen::scaleListItemDblClicked(QListWidgetItem*)
     if (!word.isEmpty()) {
         if (!scaleSelector().switchOn)
             scaleSelector().setSwitchOn(true);
+        library.setCurrentCategory(category); // the switch has asked where the scale before it stands
         playScale(word);
     }
     mainWnd->focusInKeyboard();
@@ -162,7 +175,7 @@ void CenterScreen::scaleListItemDblClicked(QListWidgetItem*)
 // As a gesture on the selector does it.
 void CenterScreen::playScale(const QString& word)
 {
-    if (!scaleSelector().setScaleModifier(word, false))
+    if (!isScaleWord(word) || !scaleSelector().setScaleModifier(word, false))
         return;
     mainWnd->headerController->storeScale(true, word);
     mainWnd->checkScaleMatches(true);

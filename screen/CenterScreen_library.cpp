@@ -4,6 +4,7 @@
 
 #include "app/MainWnd.h"
 #include "keys/ScaleKeyController.h"
+#include "keys/StageMenu.h"
 #include "screen/CategoryListWidget.h"
 #include "screen/DescriptionEditor.h"
 #include "screen/LibraryView.h"
@@ -41,11 +42,12 @@ void CenterScreen::showLibraryView(bool show)
     view->mark->setVisible(show && !matches);
     if (show) {
         playedWord = static_cast<ScaleKeyController*>(mainWnd->scaleController)->scaleModifier();
-        if (describedWord.isEmpty())
-            describedWord = playedWord;
+        describedWord = playedWord;
         refreshBrowser();
     } else {
         browserTimer->stop();
+        if (categoryMenu)
+            categoryMenu->close(); // it must not outlive what it works on
     }
 }
 

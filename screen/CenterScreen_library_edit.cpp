@@ -211,7 +211,9 @@ void CenterScreen::appendScale(int field)
     addToLibrary(playedWord, field);
 }
 
-void CenterScreen::addToLibrary(const QString& word, int field)
+// By value, here and below: a note behind the dialog changes the words that the callers hold.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
+void CenterScreen::addToLibrary(QString word, int field)
 {
     DatabaseLibrary& library = mainWnd->library;
     AddWindow dialog(field, mainWnd);
@@ -227,10 +229,11 @@ void CenterScreen::addToLibrary(const QString& word, int field)
     library.setCurrentCategory(dialog.category());
     library.setCurrentScaleIndex(dialog.category(),
                                  library.indexOfScaleFromCategory(dialog.category(), word, 0));
-    storeScale(read(dialog, word));
+    showStored(word);
 }
 
-void CenterScreen::openEditSceneDlg(const QString& word, int field)
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
+void CenterScreen::openEditSceneDlg(QString word, int field)
 {
     if (word.isEmpty() || mainWnd->dialogOpen)
         return;
@@ -238,14 +241,15 @@ void CenterScreen::openEditSceneDlg(const QString& word, int field)
         return addToLibrary(word, field);
     EditWindow dialog(field, mainWnd);
     fill(dialog, recordOf(word));
-    if (dialog.exec())
-        storeScale(read(dialog, word));
+    if (!dialog.exec())
+        return;
+    mainWnd->library.setScaleData(word, read(dialog, word), DatabaseLibrary::LibraryRole);
+    showStored(word);
 }
 
-void CenterScreen::storeScale(const scale_data& record)
+void CenterScreen::showStored(const QString& word)
 {
-    mainWnd->library.setScaleData(record.scale, record, DatabaseLibrary::LibraryRole);
-    mainWnd->headerController->updateHeaderScenics(record.scale);
+    mainWnd->headerController->updateHeaderScenics(word);
     refreshBrowser();
     mainWnd->checkScaleMatches(true);
 }
@@ -262,13 +266,16 @@ QString CenterScreen::askCategory(LibraryButton::Code at, const QString& word)
         action->setProperty("category", name);
         action->setEnabled(library.indexOfScaleFromCategory(name, word, 0) < 0);
     }
+    if (menu.isEmpty())
+        return {};
+    categoryMenu = &menu;
     const LibraryButton& button = view->button(at);
     const QPointF corner = button.sceneBoundingRect().bottomLeft();
     const QGraphicsView* stage = form.centerGraphicsView;
     const QAction* chosen = nullptr;
     connect(&menu, &QMenu::triggered, this, [&chosen](const QAction* action) { chosen = action; });
     menu.exec(stage->viewport()->mapToGlobal(stage->mapFromScene(corner)));
-    return chosen ? chosen->property("category").toString() : QString();
+    return chosen && libraryOpen ? chosen->property("category").toString() : QString();
 }
 
 void CenterScreen::copyScale()

@@ -5,6 +5,7 @@
 #include "app/MainWnd.h"
 #include "keys/pictures.h"
 #include "screen/PortListWidget.h"
+#include "screen/scroll_style.h"
 
 #include <QGraphicsScene>
 #include <QSignalBlocker>
@@ -32,8 +33,7 @@ PortListWidget* CenterScreen::createPortList(const QRect& place, const QString& 
     list->setGeometry(place);
     list->setAccessibleName(name);
     list->setToolTip(tr("Click a port to open or close it; several can be open at once"));
-    list->ensurePolished(); // else the scroll bars miss their part of the sheet
-    list->setStyleSheet(style);
+    setStyleWithBars(*list, style);
     connect(mainWnd, &MainWnd::specialKeyPressed, list, &PortListWidget::specialKeyPress);
     connect(list, &PortListWidget::left, mainWnd, &MainWnd::focusInKeyboard);
     return list;

@@ -2,12 +2,13 @@
 
 #include "keys/pictures.h"
 #include "screen/CategoryListWidget.h"
+#include "screen/CenterScreen.h"
 #include "screen/DescriptionEditor.h"
 #include "screen/RightTracker.h"
 #include "screen/ScaleListWidget.h"
+#include "screen/scroll_style.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QGraphicsScene>
 
 namespace {
@@ -96,12 +97,6 @@ QString picturePath(const char* name, const char* state)
                 : QStringLiteral(":/Resources/LibraryScreen/Buttons/Scale_label.png");
 }
 
-QString textOf(const char* path)
-{
-    QFile file{QLatin1String(path)};
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
 /// Open and close stand outside the view and are always there.
 bool isAccess(int code)
 {
@@ -141,11 +136,11 @@ void LibraryView::addButtons(QGraphicsScene& scene)
 
 void LibraryView::dressLists()
 {
-    const QString style = textOf(":/Resources/LibraryScreen/Library_list-mac.qss");
+    const QString style =
+        CenterScreen::getMainTextData(QStringLiteral(":/Resources/LibraryScreen/Library_list-mac.qss"));
     for (AbstractListWidget* list :
          {static_cast<AbstractListWidget*>(categories), static_cast<AbstractListWidget*>(scales)}) {
-        list->ensurePolished(); // else the scroll bars miss their part of the sheet
-        list->setStyleSheet(style);
+        setStyleWithBars(*list, style);
         list->setItemHeight(rowHeight);
     }
     categories->setGeometry(categoriesPlace.translated(formOfScene));
@@ -157,8 +152,8 @@ void LibraryView::dressLists()
 void LibraryView::dressDescription()
 {
     description->setGeometry(descriptionPlace.translated(formOfScene));
-    description->ensurePolished();
-    description->setStyleSheet(textOf(":/Resources/LibraryScreen/Library_descr.qss"));
+    setStyleWithBars(*description, CenterScreen::getMainTextData(
+                                       QStringLiteral(":/Resources/LibraryScreen/Library_descr.qss")));
     description->setFocusPolicy(Qt::NoFocus);
     description->setFrameShape(QFrame::NoFrame);
     description->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -1,5 +1,7 @@
 #include "screen/PortListWidget.h"
 
+#include "app/MainWnd.h"
+
 #include <QKeyEvent>
 
 namespace {
@@ -26,7 +28,7 @@ QListWidgetItem* PortListWidget::addRow(const QString& name)
 
 void PortListWidget::specialKeyPress(int key)
 {
-    if (!hasFocus())
+    if (!hasFocus() || mainWnd->isOccupied())
         return;
     if (key == Qt::Key_Escape) {
         emit left();

@@ -215,7 +215,9 @@ void ScaleFields::abbr2TextChange(const QString& text)
 
 void ScaleFields::follow(ShortName& changed, const ShortName& other, const QString& text)
 {
-    changed.error = !mayBeShortName(text);
+    // A name of the factory may be too wide; it can be made shorter.
+    const bool shrinks = text.size() < changed.lastGood.size() && !mayBeShortName(changed.lastGood);
+    changed.error = !mayBeShortName(text) && !shrinks;
     changed.edit->setStyleSheet(changed.error ? badStyle : goodStyle);
     if (changed.error) {
         takeBack(changed, text);

@@ -66,7 +66,7 @@ void ScaleListWidget::dragCancel()
 {
     AbstractListWidget::dragCancel();
     categories()->dragCancel();
-    pressRow = -1;
+    pressed = QModelIndex();
     viewport()->unsetCursor();
     mainWnd->centerScreen->updateBrowser(); // what changed meanwhile has waited
 }
@@ -155,33 +155,31 @@ void ScaleListWidget::specialKeyPress(int key)
 {
     if (isDragging() && key == Qt::Key_Escape)
         dragCancel();
-    else if (hasFocus() && !mainWnd->dialogOpen && key != Qt::Key_Escape && currentItem())
+    else if (hasFocus() && !mainWnd->isOccupied() && key != Qt::Key_Escape && currentItem())
         emit itemDoubleClicked(currentItem());
 }
 
 void ScaleListWidget::mousePressEvent(QMouseEvent* event)
 {
-    const bool left = event->button() == Qt::LeftButton;
     pressPos = event->pos();
-    const QModelIndex under = indexAt(event->pos());
-    pressRow = left && under.isValid() ? under.row() : -1;
-    if (left) // another button means nothing here
-        AbstractListWidget::mousePressEvent(event);
+    pressed = event->button() == Qt::LeftButton ? indexAt(event->pos()) : QModelIndex();
+    AbstractListWidget::mousePressEvent(event);
 }
 
-// The base would select rows as the pointer passes them.
 void ScaleListWidget::mouseMoveEvent(QMouseEvent* event)
 {
     const bool far = (event->pos() - pressPos).manhattanLength() >= QApplication::startDragDistance();
-    if (!isDragging() && pressRow >= 0 && far && (event->buttons() & Qt::LeftButton))
-        dragStart(pressRow, Qt::MoveAction);
+    if (!isDragging() && pressed.isValid() && far && (event->buttons() & Qt::LeftButton))
+        dragStart(pressed.row(), Qt::MoveAction);
     if (isDragging())
         trackDrag(event->globalPos());
+    else
+        AbstractListWidget::mouseMoveEvent(event);
 }
 
 void ScaleListWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    pressRow = -1;
+    pressed = QModelIndex();
     AbstractListWidget::mouseReleaseEvent(event);
 }
 

@@ -63,6 +63,6 @@ private:
 
     AbstractListWidget* const categoryList;
     QPoint pressPos;
-    int pressRow = -1;
+    QPersistentModelIndex pressed; ///< gone with the rows when the list is filled anew
     Qt::DropAction dragAction = Qt::MoveAction;
 };

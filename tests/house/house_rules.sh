@@ -37,7 +37,7 @@ both() { find "$@" -name '*.cpp' -o -name '*.h'; }
         screen/CenterScreen.cpp screen/CenterScreen_browser.cpp screen/CenterScreen_credits.cpp
         screen/CenterScreen_library.cpp screen/CenterScreen_library_edit.cpp screen/CenterScreen_ports.cpp
         screen/ChangeDialog.cpp screen/EditWindow.cpp screen/LibraryButton.cpp screen/ScaleFields.cpp
-        screen/ScaleListWidget.cpp"
+        screen/PortListWidget.cpp screen/ScaleListWidget.cpp"
     rule "sources that reach the window without leave:" "$(
         grep -l '#include "app/MainWnd.h"' $(sources $lower) | grep -vxF "$(printf '%s\n' $may_reach_the_window)"
     )"
