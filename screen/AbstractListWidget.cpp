@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QTextDocument>
 
 AbstractListWidget::AbstractListWidget(QWidget* parent)
     : QListWidget(parent), indicator(new QLabel(viewport()))

@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int lineHeight = 2; // of the indicator
+const QColor plate(216, 218, 209), ink(0x57, 0x54, 0x50);
 
 } // namespace
 
@@ -46,9 +47,11 @@ QPixmap ScaleListWidget::pixmapForDragging(int row, const QSize& size) const
     if (!dragged)
         return pixmap;
     QPainter painter(&pixmap);
-    painter.setOpacity(0.85);
+    painter.fillRect(QRect(QPoint(), size), plate);
     const_cast<ScaleListWidget*>(this)->viewport()->render(&painter, QPoint(), visualItemRect(dragged),
                                                            DrawWindowBackground | DrawChildren);
+    painter.setPen(ink);
+    painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
     return pixmap;
 }
 
