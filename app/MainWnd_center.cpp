@@ -283,4 +283,6 @@ void MainWnd::toggleLibrary()
     showLibraryScreen(!centerScreen->libraryOpen);
     if (centerScreen->libraryOpen)
         centerScreen->libraryView()->categories->setFocus(Qt::ShortcutFocusReason);
+    else
+        focusInKeyboard();
 }

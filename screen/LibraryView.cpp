@@ -14,12 +14,12 @@
 namespace {
 
 constexpr char room[] = "LibraryView"; // the texts' context
-constexpr int rowHeight = 14;
+constexpr int rowHeight = 13;
 
 // In the scene; the widgets stand in the form.
 constexpr QPoint formOfScene(-116, 152);
 constexpr QPoint backgroundPlace(186, 15), markPlace(583, 20);
-constexpr QRect categoriesPlace(193, 38, 148, 84), scalesPlace(349, 38, 132, 84),
+constexpr QRect categoriesPlace(193, 40, 148, 80), scalesPlace(349, 40, 132, 80),
     trackerPlace(482, 38, 6, 84), descriptionPlace(492, 43, 177, 73);
 
 struct ButtonRow

@@ -80,7 +80,7 @@ void ScaleListWidget::dragButton(const QMouseEvent& event, const QPoint& pos)
     if (event.type() == QEvent::MouseButtonRelease && event.button() == Qt::LeftButton) {
         const QPoint globalPos = viewport()->mapToGlobal(pos);
         const QPoint inCategories = categories()->viewport()->mapFromGlobal(globalPos);
-        trackDrag(globalPos); // a key may have changed what the drop does
+        trackDrag(globalPos, event.modifiers()); // a key may have changed what the drop does
         dragFinish();
         if (viewport()->rect().contains(pos))
             dropData(pos);
@@ -175,7 +175,7 @@ void ScaleListWidget::mouseMoveEvent(QMouseEvent* event)
     if (!isDragging() && pressed.isValid() && far && (event->buttons() & Qt::LeftButton))
         dragStart(pressed.row(), Qt::MoveAction);
     if (isDragging())
-        trackDrag(event->globalPos());
+        trackDrag(event->globalPos(), event->modifiers());
     else
         AbstractListWidget::mouseMoveEvent(event);
 }
@@ -186,10 +186,10 @@ void ScaleListWidget::mouseReleaseEvent(QMouseEvent* event)
     AbstractListWidget::mouseReleaseEvent(event);
 }
 
-void ScaleListWidget::trackDrag(const QPoint& globalPos)
+void ScaleListWidget::trackDrag(const QPoint& globalPos, Qt::KeyboardModifiers modifiers)
 {
     moveDragPicture(globalPos);
-    const bool copies = QApplication::keyboardModifiers() & Qt::ControlModifier;
+    const bool copies = modifiers & Qt::ControlModifier;
     categories()->offer(dragData.get(), copies ? Qt::CopyAction : dragAction);
     const scale_payload payload = unpackPayload(dragData.get(), customMimeType());
     const QPoint here = viewport()->mapFromGlobal(globalPos);

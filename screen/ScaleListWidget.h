@@ -57,7 +57,7 @@ protected:
 
 private:
     [[nodiscard]] CategoryListWidget* categories() const;
-    void trackDrag(const QPoint& globalPos);
+    void trackDrag(const QPoint& globalPos, Qt::KeyboardModifiers modifiers);
     [[nodiscard]] int reorder(int from, int before) const;
     void cancelLostDrag();
 

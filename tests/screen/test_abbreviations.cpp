@@ -49,6 +49,8 @@ private slots:
     void setFromCodeIsNoChange();
     void setFromCodeIsCut_data();
     void setFromCodeIsCut();
+    void editedNamesStayAsTheyAre();
+    void aNameThatIsTooWideCanBeMadeShorter();
     void setFromCodeIsTheLastGoodText();
     void otherSendersAreNotHeard();
 
@@ -315,7 +317,33 @@ void TestAbbreviations::setFromCodeIsCut()
         QCOMPARE(dialog.abbr2(), beginning);
     };
     expect(AddWindow(1, window.get()));
-    expect(EditWindow(1, window.get()));
+}
+
+// The factory has names that are wider than the user's may be.
+void TestAbbreviations::editedNamesStayAsTheyAre()
+{
+    EditWindow dialog(1, window.get());
+    dialog.setAbbr1(QStringLiteral("Bep.Minor"));
+    dialog.setAbbr2(QStringLiteral("a b"));
+    QCOMPARE(dialog.abbr1(), QStringLiteral("Bep.Minor"));
+    QCOMPARE(dialog.abbr2(), QStringLiteral("a b"));
+}
+
+void TestAbbreviations::aNameThatIsTooWideCanBeMadeShorter()
+{
+    EditWindow dialog(2, window.get());
+    dialog.setAbbr1(QStringLiteral("Bep.Minor"));
+    run(dialog, [&] {
+        QLineEdit* name = first(dialog);
+        name->setFocus();
+        name->end(false);
+        for (int left = 8; left >= 0; --left) {
+            press(Qt::Key_Backspace);
+            QCOMPARE(dialog.abbr1(), QStringLiteral("Bep.Minor").left(left));
+        }
+        type("WWWWWW");
+        QCOMPARE(dialog.abbr1(), QStringLiteral("WWW"));
+    });
 }
 
 void TestAbbreviations::setFromCodeIsTheLastGoodText()

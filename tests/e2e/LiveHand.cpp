@@ -1,0 +1,60 @@
+#include "LiveHand.h"
+
+#include "ChildProcess.h"
+
+#include <QGuiApplication>
+#include <QtTest>
+
+namespace {
+
+constexpr int patienceMs = 10000;
+constexpr QPoint emptyPlace(940, 150);
+
+QStringList moveTo(QPoint stage)
+{
+    const QPointF pixel = QPointF(stage) * qGuiApp->devicePixelRatio();
+    return {QStringLiteral("mousemove"), QString::number(qRound(pixel.x())),
+            QString::number(qRound(pixel.y()))};
+}
+
+} // namespace
+
+LiveHand::LiveHand()
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool LiveHand::click(QPoint stage)
+{
+    return act(moveTo(stage) + QStringList{QStringLiteral("click"), QStringLiteral("1")}, 1);
+}
+
+bool LiveHand::key(const QString& name)
+{
+    return act({QStringLiteral("key"), name}, name.count(QLatin1Char('+')) + 1);
+}
+
+bool LiveHand::rest()
+{
+    return act(moveTo(emptyPlace), 0);
+}
+
+bool LiveHand::act(const QStringList& arguments, int expectedReleases)
+{
+    const int awaited = releases + expectedReleases;
+    ChildProcess xdotool;
+    xdotool.setProcessChannelMode(QProcess::ForwardedChannels);
+    xdotool.start(QStringLiteral("xdotool"), arguments);
+    const auto isOver = [&] { return xdotool.state() == QProcess::NotRunning && releases >= awaited; };
+    return QTest::qWaitFor(isOver, patienceMs) && xdotool.exitStatus() == QProcess::NormalExit &&
+           xdotool.exitCode() == 0;
+}
+
+// What comes from the X server comes to a window first, and to widgets from there.
+bool LiveHand::eventFilter(QObject* object, QEvent* event)
+{
+    if (object->isWindowType() &&
+        (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease))
+        ++releases;
+    return QObject::eventFilter(object, event);
+}
