@@ -158,7 +158,9 @@ void LibraryView::dressDescription()
     description->setFrameShape(QFrame::NoFrame);
     description->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     description->setOpenLinks(false);
-    description->document()->setDocumentMargin(0.5);
+    description->document()->setDocumentMargin(0);
+    description->document()->setDefaultStyleSheet(
+        QStringLiteral("div { line-height: 97%; }")); // six whole lines
     description->setAccessibleName(say(QT_TRANSLATE_NOOP("LibraryView", "Description of the scale")));
     description->setToolTip(say(QT_TRANSLATE_NOOP("LibraryView", "Click to edit the description")));
 }
