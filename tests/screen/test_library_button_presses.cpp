@@ -1,8 +1,6 @@
 // When the buttons of the library act, and what each does.
 
-#include "LibraryFixture.h"
-
-#include "library_button_table.h"
+#include "LibraryButtonFixture.h"
 #include "screen/ChangeDialog.h"
 
 #include <QTimer>
@@ -11,17 +9,12 @@
 
 using namespace library_button_table;
 
-class TestLibraryButtonPresses : public LibraryFixture
+class TestLibraryButtonPresses : public LibraryButtonFixture
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        openWindow();
-        show();
-        openLibrary();
-    }
+    void init() { openForButtons(); }
 
     void showsThePressWhileThePointerIsInside_data() { addCodes(); }
     void showsThePressWhileThePointerIsInside();
@@ -54,22 +47,6 @@ private:
                 dialog->reject();
             }
         return count;
-    }
-    static void addCodes()
-    {
-        QTest::addColumn<int>("code");
-        for (const Row& row : rowsOfTable)
-            QTest::addRow("%d", row.code) << static_cast<int>(row.code);
-    }
-    static LibraryButton::Code fetchedCode()
-    {
-        QFETCH(int, code);
-        return static_cast<LibraryButton::Code>(code);
-    }
-    /// The library stands open, but for the button that opens it.
-    void reach(LibraryButton::Code code) const
-    {
-        window->showLibraryScreen(code != LibraryButton::open_library);
     }
 };
 

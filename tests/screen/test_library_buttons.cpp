@@ -1,8 +1,6 @@
 // The library's thirteen buttons: where they stand, how they look and what they say.
 
-#include "LibraryFixture.h"
-
-#include "library_button_table.h"
+#include "LibraryButtonFixture.h"
 
 #include <QStyleOptionGraphicsItem>
 #include <QtTest>
@@ -22,17 +20,12 @@ int strongestAlpha(const QImage& image)
 
 } // namespace
 
-class TestLibraryButtons : public LibraryFixture
+class TestLibraryButtons : public LibraryButtonFixture
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        openWindow();
-        show();
-        openLibrary();
-    }
+    void init() { openForButtons(); }
 
     void codeCountsFromOne_data() { addCodes(); }
     void codeCountsFromOne();
@@ -48,24 +41,6 @@ private slots:
     void ghostIsFaintAndBlind();
     void ghostsWithoutAScale();
     void lettersOfItsPlateAreItsText();
-
-private:
-    static void addCodes()
-    {
-        QTest::addColumn<int>("code");
-        for (const Row& row : rowsOfTable)
-            QTest::addRow("%d", row.code) << static_cast<int>(row.code);
-    }
-    static LibraryButton::Code fetchedCode()
-    {
-        QFETCH(int, code);
-        return static_cast<LibraryButton::Code>(code);
-    }
-    /// The library stands open, but for the button that opens it.
-    void reach(LibraryButton::Code code) const
-    {
-        window->showLibraryScreen(code != LibraryButton::open_library);
-    }
 };
 
 void TestLibraryButtons::codeCountsFromOne()

@@ -1,32 +1,18 @@
 // A row of the scale list under the hand, by the events of a real pointer: where it can go, and what it
 // shows.
 
-#include "LibraryFixture.h"
+#include "ScaleDragFixture.h"
 
 #include <QLabel>
 #include <QtTest>
 
-class TestScaleListsDrag : public LibraryFixture
+class TestScaleListsDrag : public ScaleDragFixture
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        openWindow();
-        show();
-        openLibrary();
-        scale().setSwitchOff(true);
-        play(ionian);
-        settle();
-        showCategory(0);
-    }
-    void cleanup()
-    {
-        if (window)
-            release({1, 1}); // whatever a test held
-        closeWindow();
-    }
+    void init() { openForDrags(); }
+    void cleanup() { closeAfterDrags(); }
 
     // Its beginning
     void beginsAtTheDragDistance();
@@ -49,13 +35,6 @@ private slots:
     void marksAndCursorsTellWhereItCanGo();
 
 private:
-    QStringList everything() const
-    {
-        QStringList lines;
-        for (const QString& name : library().categories())
-            lines << name + QLatin1Char(':') + QStringList(words(name)).join(',');
-        return lines;
-    }
     QPoint inList(const QListWidget& list, QPoint place) const
     {
         return list.viewport()->mapTo(window.get(), place);
@@ -65,29 +44,6 @@ private:
     {
         const QRect place = scaleList().visualItemRect(scaleList().item(row));
         return inList(scaleList(), {30, lower ? place.bottom() - 1 : place.top() + 1});
-    }
-    /// Presses on a row and moves until the drag is under way.
-    void drag(int row) const
-    {
-        const QPoint from = placeOfRow(scaleList(), row);
-        press(from);
-        move(from + QPoint(QApplication::startDragDistance(), 0));
-        QVERIFY(scaleList().isDragging());
-    }
-    QLabel* dragPicture() const
-    {
-        for (QLabel* label : window->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
-            if (!label->isHidden() && label->testAttribute(Qt::WA_TransparentForMouseEvents) &&
-                label->pixmap(Qt::ReturnByValue).height())
-                return label;
-        return nullptr;
-    }
-    bool isOver() const
-    {
-        const auto* line = scaleList().viewport()->findChild<QLabel*>();
-        const auto* frame = categoryList().viewport()->findChild<QLabel*>();
-        return !scaleList().isDragging() && line->isHidden() && frame->isHidden() &&
-               !scaleList().viewport()->testAttribute(Qt::WA_SetCursor);
     }
 };
 

@@ -1,6 +1,6 @@
 // What ends the drag of a scale, and what happens to it when the library changes under the hand.
 
-#include "LibraryFixture.h"
+#include "ScaleDragFixture.h"
 
 #include "screen/RightTracker.h"
 
@@ -8,27 +8,13 @@
 #include <QLabel>
 #include <QtTest>
 
-class TestScaleListsDragEnds : public LibraryFixture
+class TestScaleListsDragEnds : public ScaleDragFixture
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        openWindow();
-        show();
-        openLibrary();
-        scale().setSwitchOff(true);
-        play(ionian);
-        settle();
-        showCategory(0);
-    }
-    void cleanup()
-    {
-        if (window)
-            release({1, 1}); // whatever a test held
-        closeWindow();
-    }
+    void init() { openForDrags(); }
+    void cleanup() { closeAfterDrags(); }
 
     // What it shows
     void listsAreNotRebuiltUnderTheHand();
@@ -44,38 +30,6 @@ private slots:
     void dropAfterANoteStaysInTheCategoryThatShows();
     void noActionIsTakenByKeysOfTheList_data();
     void noActionIsTakenByKeysOfTheList();
-
-private:
-    QStringList everything() const
-    {
-        QStringList lines;
-        for (const QString& name : library().categories())
-            lines << name + QLatin1Char(':') + QStringList(words(name)).join(',');
-        return lines;
-    }
-    /// Presses on a row and moves until the drag is under way.
-    void drag(int row) const
-    {
-        const QPoint from = placeOfRow(scaleList(), row);
-        press(from);
-        move(from + QPoint(QApplication::startDragDistance(), 0));
-        QVERIFY(scaleList().isDragging());
-    }
-    QLabel* dragPicture() const
-    {
-        for (QLabel* label : window->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
-            if (!label->isHidden() && label->testAttribute(Qt::WA_TransparentForMouseEvents) &&
-                label->pixmap(Qt::ReturnByValue).height())
-                return label;
-        return nullptr;
-    }
-    bool isOver() const
-    {
-        const auto* line = scaleList().viewport()->findChild<QLabel*>();
-        const auto* frame = categoryList().viewport()->findChild<QLabel*>();
-        return !scaleList().isDragging() && line->isHidden() && frame->isHidden() &&
-               !scaleList().viewport()->testAttribute(Qt::WA_SetCursor);
-    }
 };
 
 void TestScaleListsDragEnds::listsAreNotRebuiltUnderTheHand()
