@@ -10,7 +10,7 @@ class ScaleListWidget : public AbstractListWidget
     Q_OBJECT
 
 public:
-    ScaleListWidget(AbstractListWidget* categoryList, QWidget* parent);
+    ScaleListWidget(AbstractListWidget* categories, QWidget* parent);
 
     // Rows; `index` is the scale's in its category
     void updateItem(QListWidgetItem* item, int index, const QString& word, const QString& title);
