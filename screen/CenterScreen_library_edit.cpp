@@ -65,6 +65,12 @@ scale_data read(const Dialog& dialog, const QString& word)
     return {word, dialog.abbr1(), dialog.abbr2(), dialog.name(), dialog.description()};
 }
 
+/// The dialog cuts what is too wide for the user's names; a name that was not touched stays whole.
+QString keptAbbr(const QString& typed, const QString& before)
+{
+    return typed == AddWindow::findRightAbbrText(before) ? before : typed;
+}
+
 /// The record of a word: the library's, else the one of the player, else a new "User" one.
 scale_data recordOf(const QString& word)
 {
@@ -217,14 +223,18 @@ void CenterScreen::addToLibrary(QString word, int field)
 {
     DatabaseLibrary& library = mainWnd->library;
     AddWindow dialog(field, mainWnd);
-    fill(dialog, recordOf(word));
+    const scale_data before = recordOf(word);
+    fill(dialog, before);
     dialog.setCategoryList(library.categories().toList());
     dialog.setCurrentCategory(library.currentCategory());
     if (!dialog.exec())
         return;
     if (library.isCustomScale(word))
         library.removeScale(word); // it becomes a record of the library
-    library.setScaleData(word, read(dialog, word), DatabaseLibrary::LibraryRole);
+    scale_data record = read(dialog, word);
+    record.abbr1 = keptAbbr(record.abbr1, before.abbr1);
+    record.abbr2 = keptAbbr(record.abbr2, before.abbr2);
+    library.setScaleData(word, record, DatabaseLibrary::LibraryRole);
     library.appendScaleToCategory(dialog.category(), word);
     library.setCurrentCategory(dialog.category());
     library.setCurrentScaleIndex(dialog.category(),

@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QTextEdit>
 
+#include <algorithm>
+
 namespace {
 
 const QMargins panelMargins(33, 30, 33, 30);
@@ -23,6 +25,15 @@ const QString goodStyle = QStringLiteral("QLineEdit { border-width: 0px; color: 
 const QString badStyle = QStringLiteral("QLineEdit { border-width: 2px; border-color: red; color: red; "
                                         "selection-background-color: rgb(255, 187, 184); }");
 const QString noMessage = QStringLiteral(" ");
+
+/// Whether a text is another one with a piece taken out.
+bool isRestOf(const QString& text, const QString& whole)
+{
+    if (text.size() >= whole.size())
+        return false;
+    const auto cut = std::mismatch(text.begin(), text.end(), whole.begin()).first;
+    return whole.endsWith(text.mid(static_cast<int>(cut - text.begin())));
+}
 
 bool mayBeShortName(const QString& text)
 {
@@ -216,7 +227,7 @@ void ScaleFields::abbr2TextChange(const QString& text)
 void ScaleFields::follow(ShortName& changed, const ShortName& other, const QString& text)
 {
     // A name of the factory may be too wide; it can be made shorter.
-    const bool shrinks = text.size() < changed.lastGood.size() && !mayBeShortName(changed.lastGood);
+    const bool shrinks = !mayBeShortName(changed.lastGood) && isRestOf(text, changed.lastGood);
     changed.error = !mayBeShortName(text) && !shrinks;
     changed.edit->setStyleSheet(changed.error ? badStyle : goodStyle);
     if (changed.error) {

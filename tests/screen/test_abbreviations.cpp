@@ -51,6 +51,8 @@ private slots:
     void setFromCodeIsCut();
     void editedNamesStayAsTheyAre();
     void aNameThatIsTooWideCanBeMadeShorter();
+    void wrongSignOverANameThatIsTooWideIsTakenBack_data();
+    void wrongSignOverANameThatIsTooWideIsTakenBack();
     void setFromCodeIsTheLastGoodText();
     void otherSendersAreNotHeard();
 
@@ -343,6 +345,30 @@ void TestAbbreviations::aNameThatIsTooWideCanBeMadeShorter()
         }
         type("WWWWWW");
         QCOMPARE(dialog.abbr1(), QStringLiteral("WWW"));
+    });
+}
+
+// Shortening a name that is too wide was once let pass whatever it was typed over with.
+void TestAbbreviations::wrongSignOverANameThatIsTooWideIsTakenBack_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("alone") << QStringLiteral("_");
+    QTest::newRow("after its beginning") << QStringLiteral("B_");
+    QTest::newRow("space") << QStringLiteral(" ");
+}
+
+void TestAbbreviations::wrongSignOverANameThatIsTooWideIsTakenBack()
+{
+    QFETCH(QString, typed);
+    EditWindow dialog(2, window.get());
+    dialog.setAbbr1(QStringLiteral("Bep.Minor"));
+    run(dialog, [&] {
+        QLineEdit* name = first(dialog);
+        name->setFocus();
+        name->selectAll();
+        name->insert(typed); // in one edit
+        QCOMPARE(dialog.abbr1(), QStringLiteral("Bep.Minor"));
+        QVERIFY(message(dialog)->text() != noWarning);
     });
 }
 

@@ -24,6 +24,7 @@ private slots:
     void noteBehindTheEditDialogChangesNoOtherScale_data();
     void noteBehindTheEditDialogChangesNoOtherScale();
     void noteBehindTheAddDialogAddsWhatWasPlayedThen();
+    void addingAKnownScaleKeepsTheNamesThatNobodyTouched();
     // A refilled list once handed another row to the drag.
     void noteBetweenPressAndMoveEndsTheDragBeforeItBegins();
     void clickBeforeTheListsFollowMeansWhatTheHandSaw();
@@ -107,6 +108,26 @@ void TestLibraryOvertaken::noteBehindTheAddDialogAddsWhatWasPlayedThen()
     QCOMPARE(seen, 1);
     QCOMPARE(titleOf(unknownWord), QStringLiteral("mine"));
     QCOMPARE(titleOf(ionianWord), QStringLiteral("Ionian"));
+}
+
+// The dialog shows "MAJO", which is what fits; the factory's "MAJOR" is not to be lost by it.
+void TestLibraryOvertaken::addingAKnownScaleKeepsTheNamesThatNobodyTouched()
+{
+    scale_data before;
+    scale_data after;
+    QVERIFY(library().getScaleData(ionianWord, before, DatabaseLibrary::LibraryRole));
+    QVERIFY(!screen().canBeRightLibraryName(before.abbr1));
+    whenOpen<AddWindow>([this](AddWindow& dialog) {
+        dialog.setCurrentCategory(category(9));
+        dialog.setAbbr2(QStringLiteral("mine"));
+        dialog.accept();
+    });
+    screen().carryOut(LibraryButton::add_scale);
+    QCOMPARE(seen, 1);
+    QVERIFY(library().getScaleData(ionianWord, after, DatabaseLibrary::LibraryRole));
+    QCOMPARE(after.abbr1, before.abbr1);
+    QCOMPARE(after.abbr2, QStringLiteral("mine"));
+    QCOMPARE(words(category(9)), QList<QString>{ionianWord});
 }
 
 void TestLibraryOvertaken::noteBetweenPressAndMoveEndsTheDragBeforeItBegins()
