@@ -30,6 +30,9 @@ void addOptions(QCommandLineParser& parser)
         {"no-virtual", tr("Do not open Sorvane's own virtual ports.")},
         {"list-ports", tr("Print the MIDI ports of both directions and end.")},
         {"midi-api", tr("Use this MIDI back end: alsa or jack (also: SORVANE_MIDI_API)."), "alsa|jack"},
+        {"import", tr("Take up the state in this database file at start."), "FILE"},
+        {"export", tr("Write the state into this database file at the end."), "FILE"},
+        {"session", tr("Go on where this file left off, if it exists, and write it at the end."), "FILE"},
         {"debug", tr("Let the program's debug lines through.")},
     });
     parser.addPositionalArgument("qv_simple_logging", tr("Write log lines without time and number."),
@@ -89,7 +92,9 @@ QString CommandLine::parse(const QStringList& arguments)
     const QString api =
         parser.isSet("midi-api") ? parser.value("midi-api") : qEnvironmentVariable("SORVANE_MIDI_API");
     const QString words = checkWords(parser.positionalArguments());
-    const QString error = words.isEmpty() ? checkValues(parser, api) : words;
+    QString error = words.isEmpty() ? checkValues(parser, api) : words;
+    if (error.isEmpty())
+        error = checkFiles(parser);
     return error.simplified(); // one line, whatever the value holds
 }
 
@@ -98,6 +103,18 @@ QString CommandLine::checkWords(const QStringList& words) const
     for (const QString& word : words)
         if (word != QLatin1String("qv_simple_logging"))
             return tr("Unknown word \"%1\".").arg(word);
+    return {};
+}
+
+QString CommandLine::checkFiles(const QCommandLineParser& parser)
+{
+    const std::pair<const char*, QString*> options[] = {
+        {"import", &importFile}, {"export", &exportFile}, {"session", &sessionFile}};
+    for (const auto& [option, file] : options) {
+        *file = parser.value(QLatin1String(option));
+        if (parser.isSet(QLatin1String(option)) && file->isEmpty())
+            return tr("--%1 takes the name of a file.").arg(QLatin1String(option));
+    }
     return {};
 }
 

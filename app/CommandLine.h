@@ -28,6 +28,7 @@ public:
     QString tonic;
     QString scale;
     QStringList inPorts, outPorts;
+    QString importFile, exportFile, sessionFile;
     bool noVirtual = false;
     bool listPorts = false;
     bool headless = false;
@@ -38,5 +39,6 @@ public:
 
 private:
     [[nodiscard]] QString checkWords(const QStringList& words) const;
+    [[nodiscard]] QString checkFiles(const QCommandLineParser& parser);
     [[nodiscard]] QString checkValues(const QCommandLineParser& parser, const QString& api);
 };

@@ -17,6 +17,21 @@ void onSignal(int)
     [[maybe_unused]] const ssize_t written = ::write(ends[0], &byte, sizeof byte);
 }
 
+void watch(int number)
+{
+    struct sigaction action = {};
+    action.sa_handler = onSignal;
+    action.sa_flags = SA_RESTART;
+    sigaction(number, &action, nullptr);
+}
+
+// Who starts the program with nohup means it.
+bool isIgnored(int number)
+{
+    struct sigaction action = {};
+    return sigaction(number, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
 } // namespace
 
 EndSignals::EndSignals(QObject* parent) : QObject(parent)
@@ -28,9 +43,8 @@ EndSignals::EndSignals(QObject* parent) : QObject(parent)
         notifier->setEnabled(false);
         QCoreApplication::quit();
     });
-    struct sigaction action = {};
-    action.sa_handler = onSignal;
-    action.sa_flags = SA_RESTART;
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
+    watch(SIGINT);
+    watch(SIGTERM);
+    if (!isIgnored(SIGHUP))
+        watch(SIGHUP);
 }

@@ -4,7 +4,8 @@
 
 class QSocketNotifier;
 
-/// Turns SIGINT and SIGTERM into a clean end of the event loop. One instance a process.
+/// Turns SIGINT, SIGTERM and, unless it is ignored, SIGHUP into a clean end of the event loop. One instance a
+/// process.
 class EndSignals : public QObject
 {
     Q_OBJECT

@@ -65,6 +65,9 @@ public:
     void didCenterSceneChange();
     /// Opens the library, or goes back to the scene before it.
     void showLibraryScreen(bool show);
+    /// The centre screen's scene of that number, 1 to 4, with the ways that lead out of it; another number
+    /// does nothing.
+    void showScene(int number);
     /// Asks for the names of the scale that the selector shows.
     void editPlayedScale();
     /// Gives the keyboard to the input view.
@@ -99,6 +102,16 @@ public:
     /// Ends what the pointer holds on the stage and in the library, before something takes the pointer away.
     void endGestures();
 
+    // Files (MainWnd_files.cpp)
+    /// Asks for a database file and takes up what it holds, or says why it cannot.
+    void openDatabase();
+    /// Asks for a file and writes the whole state into it, or says why it cannot.
+    void saveDatabase();
+    /// Takes up a file's state; the ports stay as their rows show. Returns what went wrong, or "".
+    [[nodiscard]] QString importDatabase(const QString& file);
+    /// Writes the state as it is between gestures. Returns what went wrong, or "".
+    [[nodiscard]] QString exportDatabase(const QString& file);
+
     // MIDI (MainWnd_midi.cpp)
     /// The key of a note on the input keyboard, or null.
     [[nodiscard]] ResizableItem* findInNote(int note) const;
@@ -117,6 +130,8 @@ public:
     void scanMIDIPorts();
     void inPortChanged(QListWidgetItem* item);
     void outPortChanged(QListWidgetItem* item);
+    /// Remembers which rows are selected.
+    void storePortSelection() const;
     /// What the user reads when a port cannot be opened.
     [[nodiscard]] static QString portErrorText(const QString& reason);
 
@@ -232,6 +247,10 @@ private:
     void clickFocusedButton(int key);
     void toggleLibrary();
     void openPorts();
+
+    // Files (MainWnd_files.cpp)
+    [[nodiscard]] QString askFile(bool toSave);
+    void alertFile(const QString& text, const QString& file, const QString& reason);
 
     // Scenes (MainWnd_scenes.cpp, MainWnd_selectors.cpp)
     DiagramScene* createKeyScene(const QString& side, const QRectF& rectangle, QGraphicsView* view);

@@ -157,6 +157,18 @@ void MainWnd::showLibraryScreen(bool show)
         focusInKeyboard();
 }
 
+void MainWnd::showScene(int number)
+{
+    static constexpr void (CenterScreen::*setters[])() = {
+        &CenterScreen::setSceneDefault, &CenterScreen::setSceneClean, &CenterScreen::setSceneMIDIinOut,
+        &CenterScreen::setSceneCredits};
+    if (number < CenterScreen::scene_default || number > CenterScreen::scene_credits)
+        return;
+    lowerHitAreas();
+    (centerScreen->*setters[number - CenterScreen::scene_default])();
+    raiseWayBack();
+}
+
 void MainWnd::editPlayedScale()
 {
     constexpr int titleField = 1;

@@ -178,6 +178,16 @@ bool MainWnd::applyOutRow(int row)
     return true;
 }
 
+void MainWnd::storePortSelection() const
+{
+    for (int row = 0; row < inPorts.size(); ++row)
+        SettingsStore::setMidiInPortSelected(centerScreen->getInPort(row),
+                                             isRowSelected(centerScreen->inPortList->item(row)));
+    for (int row = 0; row < outPorts.size(); ++row)
+        SettingsStore::setMidiOutPortSelected(centerScreen->getOutPort(row),
+                                              isRowSelected(centerScreen->outPortList->item(row)));
+}
+
 void MainWnd::inPortSelectionChange()
 {
     for (int row = 0; row < inPorts.size(); ++row)

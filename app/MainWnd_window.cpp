@@ -77,10 +77,14 @@ void MainWnd::createShortcuts()
     });
     add("Ctrl+M", [this] { openPorts(); });
     add("Ctrl+L", [this] { toggleLibrary(); });
+    add("Ctrl+O", [this] { openDatabase(); });
+    add("Ctrl+S", [this] { saveDatabase(); });
 }
 
 bool MainWnd::filterKeyPress(QEvent* event)
 {
+    if (QApplication::activeModalWidget())
+        return false; // the file dialog is a window of its own, with text fields and buttons
     const auto* press = static_cast<QKeyEvent*>(event);
     const int key = press->key();
     const bool inDialog = dialogOpen;

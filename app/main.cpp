@@ -11,6 +11,7 @@
 namespace {
 
 constexpr int badUsage = 2;
+constexpr int notWritten = 1;
 
 int fail(const QString& line)
 {
@@ -55,6 +56,21 @@ int runPrinting(const CommandLine& wanted, int argc, char** argv)
     return start::listPorts();
 }
 
+/// Prints one line for each of the text's, if it has any. True if it has none.
+bool report(const QString& lines)
+{
+    for (const QString& line : lines.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+        std::fprintf(stderr, "sorvane: %s\n", qUtf8Printable(line));
+    return lines.isEmpty();
+}
+
+int end(const CommandLine& wanted, MainWnd& window)
+{
+    window.endGestures(); // a key that the pointer holds must not sound on
+    start::stopMidiInput(window);
+    return report(start::writeFiles(wanted, window)) ? 0 : notWritten;
+}
+
 int runStage(CommandLine& wanted, int argc, char** argv)
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
@@ -64,20 +80,26 @@ int runStage(CommandLine& wanted, int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     nameProgram();
     midiService().choose(wanted.midiApi);
-    const QString error = start::selectPorts(wanted);
+    QString error = start::openFiles(wanted);
+    if (error.isEmpty())
+        error = start::selectPorts(wanted);
     if (!error.isEmpty())
         return fail(error);
     start::reportMissingService();
 
     mainWnd = new MainWnd; // lives as long as the process
+    mainWnd->ui.versionLabel->setText(versionLine());
+    error = start::readFiles(wanted, *mainWnd);
+    if (!error.isEmpty())
+        return fail(error);
+    start::setSelectors(wanted, *mainWnd);
     if (!wanted.headless)
         mainWnd->show();
-    mainWnd->ui.versionLabel->setText(versionLine());
-    start::setSelectors(wanted, *mainWnd);
+    // The desktop that ends its session may not wait for the end of the event loop.
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, mainWnd,
+                     [&wanted] { report(start::writeSession(wanted, *mainWnd)); });
     QApplication::exec();
-    mainWnd->endGestures(); // a key that the pointer holds must not sound on
-    start::stopMidiInput(*mainWnd);
-    return 0;
+    return end(wanted, *mainWnd);
 }
 
 } // namespace

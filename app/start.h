@@ -14,6 +14,19 @@ int listPorts();
 /// Call it before the window lists the ports. Returns one line that says which name fails, or "".
 [[nodiscard]] QString selectPorts(CommandLine& wanted);
 
+/// Looks at the files that will be read and written, and remembers the port selections of those that will be
+/// read. Call it before selectPorts(). Returns one line that says which file will not do, or "".
+[[nodiscard]] QString openFiles(const CommandLine& wanted);
+
+/// Takes up the session, then the file to import. Returns one line that says what failed, or "".
+[[nodiscard]] QString readFiles(const CommandLine& wanted, MainWnd& window);
+
+/// Writes the session. Returns one line that says what failed, or "".
+[[nodiscard]] QString writeSession(const CommandLine& wanted, MainWnd& window);
+
+/// Writes the session and the file to export. Returns one line for each that failed, or "".
+[[nodiscard]] QString writeFiles(const CommandLine& wanted, MainWnd& window);
+
 /// Sets tonic, scale and power through the selectors.
 void setSelectors(const CommandLine& wanted, MainWnd& window);
 

@@ -59,6 +59,9 @@ public:
     void updatePostions(const QList<QPointF>& positions);
     /// A short list writes only the first headers.
     void reloadHeaders(const QList<header_data>& data);
+    /// Before records are reloaded: their words that the library does not know keep the "User" numbers that
+    /// the records give them. The first record of a word or a number counts.
+    void restoreUserNumbers(const QList<header_data>& data) const;
     /// Refreshes the headers of a scale word, or all for an empty one.
     void updateHeaderScenics(const QString& word);
 

@@ -12,6 +12,14 @@ namespace {
 
 constexpr int lastUserNumber = 108;
 
+/// The number of a temporary scale's names; 0 if they are none.
+int userNumber(const header_data& record)
+{
+    const int number = record.nameScenic2.toInt();
+    const bool named = record.nameScenic1 == QLatin1String("User") && number >= 1 && number <= lastUserNumber;
+    return named ? number : 0;
+}
+
 bool holds(const HeaderItem* header, const QString& word)
 {
     return header && header->record.scaleOn && header->record.scaleData == word;
@@ -34,11 +42,8 @@ void HeaderController::removeUnusedTempRecords()
 int HeaderController::findMinUserNum() const
 {
     std::bitset<lastUserNumber + 1> taken;
-    for (const HeaderItem* header : headers) {
-        const int number = header->record.nameScenic2.toInt();
-        if (header->record.nameScenic1 == QLatin1String("User") && number >= 1 && number <= lastUserNumber)
-            taken.set(static_cast<std::size_t>(number));
-    }
+    for (const HeaderItem* header : headers)
+        taken.set(static_cast<std::size_t>(userNumber(header->record)));
     for (int number = 1; number <= lastUserNumber; ++number)
         if (!taken[static_cast<std::size_t>(number)])
             return number;
@@ -76,6 +81,21 @@ void HeaderController::reloadHeaders(const QList<header_data>& data)
     for (int i = 0; i < count; ++i) {
         headers.at(i)->updateScenic();
         headers.at(i)->update();
+    }
+}
+
+void HeaderController::restoreUserNumbers(const QList<header_data>& data) const
+{
+    std::bitset<lastUserNumber + 1> taken;
+    for (const header_data& record : data) {
+        const int number = userNumber(record);
+        const QString& word = record.scaleData;
+        if (number == 0 || taken[static_cast<std::size_t>(number)] || !record.scaleOn || word.isEmpty() ||
+            mainWnd->library.containsScale(word, DatabaseLibrary::LibraryRole))
+            continue;
+        taken.set(static_cast<std::size_t>(number));
+        mainWnd->library.setScaleData(word, HeaderItem::temporaryScale(word, number),
+                                      DatabaseLibrary::CustomRole);
     }
 }
 

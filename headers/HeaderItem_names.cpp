@@ -29,6 +29,16 @@ void HeaderItem::updateScenic()
         setNameScenic2(scale.abbr2);
 }
 
+scale_data HeaderItem::temporaryScale(const QString& word, int number)
+{
+    scale_data scale;
+    scale.scale = word;
+    scale.abbr1 = tr("User");
+    scale.abbr2 = QString::number(number);
+    scale.title = scale.abbr1 + QLatin1Char(' ') + scale.abbr2;
+    return scale;
+}
+
 scale_data HeaderItem::libraryRecord()
 {
     scale_data scale;
@@ -37,10 +47,7 @@ scale_data HeaderItem::libraryRecord()
     // Its own number must not count as taken.
     record.nameScenic1.clear();
     record.nameScenic2.clear();
-    scale.scale = record.scaleData;
-    scale.abbr1 = tr("User");
-    scale.abbr2 = QString::number(mainWnd->headerController->findMinUserNum());
-    scale.title = scale.abbr1 + QLatin1Char(' ') + scale.abbr2;
+    scale = temporaryScale(record.scaleData, mainWnd->headerController->findMinUserNum());
     mainWnd->library.setScaleData(record.scaleData, scale, DatabaseLibrary::CustomRole);
     return scale;
 }

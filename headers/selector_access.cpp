@@ -6,6 +6,8 @@
 #include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
 
+#include <cmath>
+
 namespace selector_access {
 namespace {
 
@@ -43,13 +45,29 @@ void moveAnchors(qreal dx)
         group->setX(qBound(-farthest, group->x() + dx, farthest));
 }
 
-void resetAnchors()
+qreal anchorsPlace()
+{
+    const AnchorsGroup* group = mainWnd->powerItem->anchorsGroup;
+    return group ? group->x() : 0;
+}
+
+void placeAnchors(qreal x)
 {
     AnchorsGroup* group = mainWnd->powerItem->anchorsGroup;
     if (!group)
         return;
-    group->setX(0);
+    group->setX(onStage(x));
     group->refresh();
+}
+
+void resetAnchors()
+{
+    placeAnchors(0);
+}
+
+qreal onStage(qreal x)
+{
+    return std::isfinite(x) ? qBound(-farthest, x, farthest) : 0;
 }
 
 } // namespace selector_access

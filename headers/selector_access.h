@@ -16,7 +16,13 @@ void setSwitch(KeyControllerBase& selector, bool on, bool toHeader);
 [[nodiscard]] int anchorX();
 /// Scene pixels; the anchors stay within what a whole number of pixels can say.
 void moveAnchors(qreal dx);
+/// x of the anchors in the scene, 0 at home.
+[[nodiscard]] qreal anchorsPlace();
+/// Puts the anchors there, as onStage() has it; does not remap.
+void placeAnchors(qreal x);
 /// The anchors back to their home; does not remap.
 void resetAnchors();
+/// A place that a file gives, in scene pixels: bounded, and 0 for what is no number.
+[[nodiscard]] qreal onStage(qreal x);
 
 } // namespace selector_access

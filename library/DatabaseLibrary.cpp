@@ -6,6 +6,7 @@
 #include "library/default_tables.h"
 
 #include <QMultiMap>
+#include <QSet>
 
 DatabaseLibrary::DatabaseLibrary() : d(std::make_unique<DatabaseLibraryPrivate>())
 {
@@ -61,22 +62,40 @@ void DatabaseLibrary::getData(QMap<QString, scale_data>& data) const
     data = all;
 }
 
+// A file may hold any number of categories and scales: nothing here looks through all of them for each.
+// Records are taken in the map's order, which decides between two of one word, and the categories are sorted
+// once.
 void DatabaseLibrary::setData(const QMap<QString, scale_data>& data)
 {
     const QMultiMap<QString, scale_data> all(data);
     clear();
-    const QList<QString> names = all.uniqueKeys();
-    for (const QString& category : names) {
-        insertCategory(category);
-        const QList<scale_data> records = all.values(category);
-        for (const scale_data& record : records) {
-            if (record.scale.isEmpty() || record.title.isEmpty())
-                continue; // the marker of an empty category
-            if (!d->scales.contains(record.scale))
-                d->scales.insert(record.scale, record);
-            appendScaleToCategory(category, record.scale);
-        }
+    QVector<QString> names = all.uniqueKeys().toVector();
+    QHash<QString, QList<QString>> words;
+    for (const QString& category : qAsConst(names)) {
+        words[category] = d->takeRecords(all.values(category));
+        d->recentCategories.prepend(category);
+        d->currentScaleIdx[category] = -1;
     }
+    sortStringVector(names);
+    for (const QString& category : qAsConst(names))
+        d->categoryScales.append(words.value(category));
+    d->categoryNames = names;
+    d->sortedBy = QLocale();
+}
+
+QList<QString> DatabaseLibraryPrivate::takeRecords(const QList<scale_data>& records)
+{
+    QList<QString> words;
+    QSet<QString> listed;
+    for (const scale_data& record : records) {
+        if (record.scale.isEmpty() || record.title.isEmpty() || listed.contains(record.scale))
+            continue; // the marker of an empty category, or a word that is listed
+        if (!scales.contains(record.scale))
+            scales.insert(record.scale, record);
+        listed.insert(record.scale);
+        words.append(record.scale);
+    }
+    return words;
 }
 
 bool DatabaseLibrary::getScaleData(const QString& key, scale_data& out, UserRole role) const

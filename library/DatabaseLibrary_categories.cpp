@@ -53,7 +53,7 @@ void DatabaseLibraryPrivate::sortCategories()
 void DatabaseLibrary::sortStringVector(QVector<QString>& strings)
 {
     if (!strings.isEmpty())
-        std::sort(strings.begin(), strings.end(), CollatedOrder());
+        std::stable_sort(strings.begin(), strings.end(), CollatedOrder());
 }
 
 void DatabaseLibrary::insertCategory(const QString& name)

@@ -1,18 +1,22 @@
 #include "library/SettingsStore.h"
 
+#include "library/settings_keys.h"
+
+#include <QJsonObject>
+#include <QPointF>
 #include <QStandardPaths>
 
 namespace {
 
-enum key_index { key_database_path = 0, key_midi_in_port = 11, key_midi_out_port = 12 };
+const QString pointKeyX = QStringLiteral("%1-PointFX"), pointKeyY = QStringLiteral("%1-PointFY");
 
 struct Default
 {
-    int key;
+    settings_key key;
     QVariant value;
 };
 
-QString portKey(key_index prefix, const QString& port)
+QString portKey(settings_key prefix, const QString& port)
 {
     return defaultKeys.at(prefix) + port;
 }
@@ -36,15 +40,15 @@ void SettingsStore::registerDefaultValues()
     const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
     const Default defaults[] = {
         {key_database_path, QString(desktop + QStringLiteral("/sorvane.svdb"))},
-        {1, false},
-        {3, false},
-        {4, false},
-        {5, QString()},
-        {6, QString()},
-        {7, QString()},
-        {8, 0},
-        {9, false},
-        {10, 0},
+        {key_power_on, false},
+        {key_tonic_on, false},
+        {key_scale_on, false},
+        {key_tonic_modifier, QString()},
+        {key_scale_modifier, QString()},
+        {key_active_header, QString()},
+        {key_current_scene, 0},
+        {key_library_opened, false},
+        {key_anchor_x, 0},
     };
     for (const Default& entry : defaults)
         registerSettingProperty(defaultKeys.at(entry.key), entry.value);
@@ -71,6 +75,26 @@ bool SettingsStore::containsProperty(const QString& key)
     return properties.contains(key);
 }
 
+QString SettingsStore::getDbFileName()
+{
+    return settingsProperty(defaultKeys.at(key_database_path), QString()).toString();
+}
+
+void SettingsStore::setDbFileName(const QString& file)
+{
+    setSettingsProperty(defaultKeys.at(key_database_path), file);
+}
+
+bool SettingsStore::getPowerState()
+{
+    return settingsProperty(defaultKeys.at(key_power_on), false).toBool();
+}
+
+void SettingsStore::setPowerState(bool on)
+{
+    setSettingsProperty(defaultKeys.at(key_power_on), on);
+}
+
 bool SettingsStore::getMidiInPortSelected(const QString& port, bool fallback)
 {
     return settingsProperty(portKey(key_midi_in_port, port), fallback).toBool();
@@ -89,4 +113,24 @@ bool SettingsStore::getMidiOutPortSelected(const QString& port, bool fallback)
 void SettingsStore::setMidiOutPortSelected(const QString& port, bool selected)
 {
     setSettingsProperty(portKey(key_midi_out_port, port), selected);
+}
+
+QPointF SettingsStore::getPointFProperty(const QString& name, const QPointF& fallback)
+{
+    return {settingsProperty(pointKeyX.arg(name), fallback.x()).toDouble(),
+            settingsProperty(pointKeyY.arg(name), fallback.y()).toDouble()};
+}
+
+void SettingsStore::setPointFProperty(const QString& name, const QPointF& point)
+{
+    setSettingsProperty(pointKeyX.arg(name), point.x());
+    setSettingsProperty(pointKeyY.arg(name), point.y());
+}
+
+void SettingsStore::rememberPorts(const QJsonObject& root)
+{
+    for (auto member = root.begin(); member != root.end(); ++member)
+        if (member.key().startsWith(defaultKeys.at(key_midi_in_port)) ||
+            member.key().startsWith(defaultKeys.at(key_midi_out_port)))
+            setSettingsProperty(member.key(), member.value().toVariant());
 }

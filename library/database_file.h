@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+/// Reads the JSON document of a database file, before anything is believed of it.
+namespace database_file {
+
+struct Content
+{
+    QJsonObject root;
+    QString error; ///< in the user's words, "" if the root was read
+};
+
+/// Reads regular files of at most 128 MiB that hold one JSON object. Anything else gives an error; nothing
+/// blocks.
+[[nodiscard]] Content read(const QString& file);
+
+/// Why no file could be written there, as far as it can be told before; else "".
+[[nodiscard]] QString whyNotWritable(const QString& file);
+
+} // namespace database_file
