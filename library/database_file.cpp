@@ -43,7 +43,9 @@ Content read(const QString& file)
 
 QString whyNotWritable(const QString& file)
 {
-    const QFileInfo info(file), folder(info.absolutePath());
+    const QFileInfo named(file);
+    const QFileInfo info(named.exists() ? named.canonicalFilePath() : named.absoluteFilePath());
+    const QFileInfo folder(info.path());
     if (info.exists() && !info.isFile())
         return tr("It is not a regular file.");
     if (!folder.isDir())
