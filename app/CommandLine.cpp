@@ -112,6 +112,8 @@ QString CommandLine::checkFiles(const QCommandLineParser& parser)
         {"import", &importFile}, {"export", &exportFile}, {"session", &sessionFile}};
     for (const auto& [option, file] : options) {
         *file = parser.value(QLatin1String(option));
+        if (parser.values(QLatin1String(option)).size() > 1)
+            return tr("--%1 can be given once.").arg(QLatin1String(option));
         if (parser.isSet(QLatin1String(option)) && file->isEmpty())
             return tr("--%1 takes the name of a file.").arg(QLatin1String(option));
     }

@@ -120,6 +120,8 @@ public:
     /// Writes the first three bytes of a message, which must have them, to every open output port. A port
     /// that fails is warned of and passed over.
     void sendMidiOut(const QList<int>* message);
+    /// Ends the notes of the keys that a player holds.
+    void releaseHeldNotes();
     [[nodiscard]] bool checkActiveMidiOut() const;
     /// Lets the pressed key be seen before a recall. MIDI messages that arrive meanwhile wait for the recall,
     /// in their order, so that the next note plays the new mapping.

@@ -164,6 +164,9 @@ void MainWnd::showScene(int number)
         &CenterScreen::setSceneCredits};
     if (number < CenterScreen::scene_default || number > CenterScreen::scene_credits)
         return;
+    ui.buttonMIDIinOut->setChecked(false);
+    ui.buttonCredits->setChecked(false);
+    ui.hiddenLayer->hide();
     lowerHitAreas();
     (centerScreen->*setters[number - CenterScreen::scene_default])();
     raiseWayBack();

@@ -12,6 +12,7 @@
 QString MainWnd::importDatabase(const QString& file)
 {
     endGestures();
+    releaseHeldNotes(); // the keys may mean something else by the time they are let go
     const QString error = SettingsStore::importDatabase(file);
     // The file's own words on ports were for a start. Here the rows say what is open.
     storePortSelection();
@@ -40,10 +41,13 @@ void MainWnd::saveDatabase()
     const QString file = askFile(true);
     if (file.isEmpty())
         return;
-    SettingsStore::setDbFileName(file);
+    const QString before = SettingsStore::getDbFileName();
+    SettingsStore::setDbFileName(file); // it stands in the file
     const QString error = exportDatabase(file);
-    if (!error.isEmpty())
-        alertFile(tr("The file cannot be saved:<br/>%1<br/>%2"), file, error);
+    if (error.isEmpty())
+        return;
+    SettingsStore::setDbFileName(before);
+    alertFile(tr("The file cannot be saved:<br/>%1<br/>%2"), file, error);
 }
 
 // Notes go on being played meanwhile.
@@ -54,14 +58,16 @@ QString MainWnd::askFile(bool toSave)
     const QFileInfo last(SettingsStore::getDbFileName());
     const QString folder = last.dir().exists() ? last.path() : QDir::homePath();
     QFileDialog dialog(this, toSave ? tr("Save a database") : tr("Open a database"), folder,
-                       tr("Sorvane databases (%1)").arg(QStringLiteral("*.svdb")));
+                       tr("Sorvane databases (%1)").arg(QStringLiteral("*.svdb")) +
+                           (toSave ? QString() : QStringLiteral(";;") + tr("All files (*)")));
     dialog.setObjectName(toSave ? QStringLiteral("saveDatabaseDialog")
                                 : QStringLiteral("openDatabaseDialog"));
     dialog.setAcceptMode(toSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(toSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog.setDefaultSuffix(QStringLiteral("svdb"));
-    if (toSave)
+    if (toSave) {
+        dialog.setDefaultSuffix(QStringLiteral("svdb"));
         dialog.selectFile(last.fileName());
+    }
     dialogOpen = true;
     const bool accepted = dialog.exec() == QDialog::Accepted;
     dialogOpen = false;

@@ -70,6 +70,14 @@ void MainWnd::pushKeySlot(QList<int> message) // NOLINT(performance-unnecessary-
     }
 }
 
+void MainWnd::releaseHeldNotes()
+{
+    constexpr int noteOff = 0x80;
+    for (int note = 0; note < inNoteHeld.size(); ++note)
+        if (inNoteHeld.at(note) != 0)
+            pushKeySlot({noteOff, note, 0});
+}
+
 void MainWnd::pressInKey(ResizableItem* key, int velocity)
 {
     const bool powerKey = key_roles::isBlack(key) && key_roles::pitch(key) == key_roles::pitch(powerItem);

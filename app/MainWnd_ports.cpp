@@ -11,6 +11,7 @@
 
 #include <QThreadPool>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -18,6 +19,13 @@ namespace {
 bool isRowSelected(const QListWidgetItem* item)
 {
     return item && item->listWidget() && item->isSelected();
+}
+
+/// Two devices may bear one name: it is remembered if any of them is selected.
+bool isNameSelected(const QListWidget& list, const QString& name)
+{
+    const QList<QListWidgetItem*> rows = list.selectedItems();
+    return std::any_of(rows.begin(), rows.end(), [&](const auto* row) { return row->text() == name; });
 }
 
 int firstRowNamed(const QListWidget& list, const QString& name)
@@ -163,7 +171,7 @@ bool MainWnd::applyInRow(int row)
     const QString name = centerScreen->getInPort(row);
     if (!followRow(item, inPorts[row], [&] { return openIn(row, name); }))
         return false;
-    SettingsStore::setMidiInPortSelected(name, isRowSelected(item));
+    SettingsStore::setMidiInPortSelected(name, isNameSelected(*centerScreen->inPortList, name));
     return true;
 }
 
@@ -174,18 +182,18 @@ bool MainWnd::applyOutRow(int row)
     if (!followRow(item, outPorts[row], [&] { return openOut(row, name); }))
         return false;
     midiOutOpen = checkActiveMidiOut();
-    SettingsStore::setMidiOutPortSelected(name, isRowSelected(item));
+    SettingsStore::setMidiOutPortSelected(name, isNameSelected(*centerScreen->outPortList, name));
     return true;
 }
 
 void MainWnd::storePortSelection() const
 {
-    for (int row = 0; row < inPorts.size(); ++row)
-        SettingsStore::setMidiInPortSelected(centerScreen->getInPort(row),
-                                             isRowSelected(centerScreen->inPortList->item(row)));
-    for (int row = 0; row < outPorts.size(); ++row)
-        SettingsStore::setMidiOutPortSelected(centerScreen->getOutPort(row),
-                                              isRowSelected(centerScreen->outPortList->item(row)));
+    const auto store = [](const QListWidget& list, void (*setSelected)(const QString&, bool)) {
+        for (int row = 0; row < list.count(); ++row)
+            setSelected(list.item(row)->text(), isNameSelected(list, list.item(row)->text()));
+    };
+    store(*centerScreen->inPortList, &SettingsStore::setMidiInPortSelected);
+    store(*centerScreen->outPortList, &SettingsStore::setMidiOutPortSelected);
 }
 
 void MainWnd::inPortSelectionChange()

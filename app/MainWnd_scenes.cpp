@@ -4,6 +4,7 @@
 
 #include "headers/DiagramScene.h"
 #include "keys/PowerItem.h"
+#include "keys/TonicScene.h"
 #include "keys/key_pictures.h"
 #include "keys/key_roles.h"
 #include "keys/pictures.h"
@@ -181,8 +182,13 @@ void MainWnd::endGestures()
 {
     for (const QGraphicsView* view : {ui.inKeyboardGraphicsView, ui.outKeyboardGraphicsView})
         static_cast<DiagramScene*>(view->scene())->loseHand();
-    if (QGraphicsItem* item = ui.centerGraphicsView->scene()->mouseGrabberItem())
+    auto* centre = static_cast<TonicScene*>(ui.centerGraphicsView->scene());
+    if (QGraphicsItem* item = centre->mouseGrabberItem())
         item->ungrabMouse();
+    centre->endGesture();
+    const QList<QPushButton*> buttons = findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QPushButton* button : buttons)
+        button->setDown(false);
     ScaleListWidget* list = centerScreen->libraryView()->scales;
     if (list->isDragging())
         list->dragCancel();

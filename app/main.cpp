@@ -66,9 +66,11 @@ bool report(const QString& lines)
 
 int end(const CommandLine& wanted, MainWnd& window)
 {
-    window.endGestures(); // a key that the pointer holds must not sound on
     start::stopMidiInput(window);
-    return report(start::writeFiles(wanted, window)) ? 0 : notWritten;
+    start::stopNotes(window);
+    const bool written = report(start::writeFiles(wanted, window));
+    start::closeMidiOutput(window);
+    return written ? 0 : notWritten;
 }
 
 int runStage(CommandLine& wanted, int argc, char** argv)
@@ -78,6 +80,9 @@ int runStage(CommandLine& wanted, int argc, char** argv)
     app = &application;
     const EndSignals signalWatch(nullptr);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+    // Asked whether the desktop's session may end, Qt would close the window even if the answer of others is
+    // no.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
     nameProgram();
     midiService().choose(wanted.midiApi);
     QString error = start::openFiles(wanted);

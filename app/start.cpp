@@ -25,12 +25,24 @@ void printPorts(const QString& title, const QStringList& names)
 
 using Store = void (*)(const QString&, bool);
 
-void markSelected(const QStringList& rows, const QStringList& wanted, Store store)
+/// The own port of that direction is opened beside the named ones unless it is remembered as closed; named,
+/// it is opened.
+void markSelected(const QStringList& rows, const QString& virtualRow, const QStringList& wanted, Store store)
 {
     if (wanted.isEmpty())
         return;
     for (const QString& row : rows)
         store(row, wanted.contains(row));
+    if (wanted.contains(virtualRow))
+        store(virtualRow, true);
+}
+
+template <typename Port>
+void closePorts(const QList<Port*>& ports)
+{
+    for (Port* port : ports)
+        if (port)
+            port->closePort();
 }
 
 } // namespace
@@ -58,8 +70,8 @@ QString selectPorts(CommandLine& wanted)
         wanted.resolvePorts(inputs + QStringList(virtualInName), outputs + QStringList(virtualOutName));
     if (!error.isEmpty())
         return error;
-    markSelected(inputs, wanted.inPorts, &SettingsStore::setMidiInPortSelected);
-    markSelected(outputs, wanted.outPorts, &SettingsStore::setMidiOutPortSelected);
+    markSelected(inputs, virtualInName, wanted.inPorts, &SettingsStore::setMidiInPortSelected);
+    markSelected(outputs, virtualOutName, wanted.outPorts, &SettingsStore::setMidiOutPortSelected);
     if (wanted.noVirtual) {
         SettingsStore::setMidiInPortSelected(virtualInName, false);
         SettingsStore::setMidiOutPortSelected(virtualOutName, false);
@@ -85,9 +97,18 @@ void reportMissingService()
 
 void stopMidiInput(MainWnd& window)
 {
-    for (RtMidiIn* port : qAsConst(window.inPorts))
-        if (port)
-            port->closePort();
+    closePorts(window.inPorts);
+}
+
+void stopNotes(MainWnd& window)
+{
+    window.endGestures();
+    window.releaseHeldNotes();
+}
+
+void closeMidiOutput(MainWnd& window)
+{
+    closePorts(window.outPorts);
 }
 
 } // namespace start

@@ -36,4 +36,10 @@ void reportMissingService();
 /// Ends the callbacks of the open input ports: the process is about to take the window's world apart.
 void stopMidiInput(MainWnd& window);
 
+/// Ends what still sounds, before the process that should end it is gone.
+void stopNotes(MainWnd& window);
+
+/// Closes the output ports, behind what was sent to them. A JACK server that hangs costs a second each.
+void closeMidiOutput(MainWnd& window);
+
 } // namespace start

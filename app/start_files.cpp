@@ -3,6 +3,8 @@
 #include "app/start.h"
 
 #include "app/MainWnd.h"
+#include "app/MidiService.h"
+#include "app/moved_ports.h"
 #include "library/SettingsStore.h"
 #include "library/database_file.h"
 
@@ -13,15 +15,36 @@ namespace {
 
 QString line(const char* option, const QString& file, const QString& reason)
 {
-    return QStringLiteral("%1 %2: %3").arg(QLatin1String(option), file, reason).simplified();
+    const QString text = QStringLiteral("%1 %2: %3").arg(QLatin1String(option), file, reason);
+    return QString(text).replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
+using Reader = bool (*)(const QString& port, bool fallback);
+using Writer = void (*)(const QString& port, bool selected);
+
+/// A port that has another number than the file knew keeps its selection.
+void followMoved(const QStringList& present, const QStringList& remembered, Reader isSelected, Writer select)
+{
+    const QMap<QString, QString> moved = movedPorts(present, remembered);
+    for (auto port = moved.begin(); port != moved.end(); ++port)
+        select(port.key(), isSelected(port.value(), false));
 }
 
 /// What a file that is to be read says of the ports, which are listed before the rest of it can be taken up.
 QString rememberPorts(const char* option, const QString& file)
 {
     const database_file::Content content = database_file::read(file);
-    SettingsStore::rememberPorts(content.root);
-    return content.error.isEmpty() ? QString() : line(option, file, content.error);
+    if (!content.error.isEmpty())
+        return line(option, file, content.error);
+    const SettingsStore::Ports remembered = SettingsStore::rememberPorts(content.root);
+    MidiService& service = midiService();
+    if (!service.isAvailable())
+        return {};
+    followMoved(service.inputNames(), remembered.inputs, &SettingsStore::getMidiInPortSelected,
+                &SettingsStore::setMidiInPortSelected);
+    followMoved(service.outputNames(), remembered.outputs, &SettingsStore::getMidiOutPortSelected,
+                &SettingsStore::setMidiOutPortSelected);
+    return {};
 }
 
 QString checkWritable(const char* option, const QString& file)

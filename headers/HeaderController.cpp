@@ -74,6 +74,12 @@ void HeaderController::loadSelectors(const header_data& data, int offset)
         mainWnd->powerItem->remap();
 }
 
+void HeaderController::showActiveHeader()
+{
+    if (activeHeader)
+        loadSelectors(header_data(activeHeader->record), anchorX()); // a copy: the selectors write into it
+}
+
 void HeaderController::setActiveHeaderPrev()
 {
     recallNeighbour(-1);

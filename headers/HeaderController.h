@@ -57,11 +57,14 @@ public:
     void getHeadersData(QList<header_data>& data) const;
     /// A short list moves only the first headers. Kept: so spelt.
     void updatePostions(const QList<QPointF>& positions);
+    /// Shows the active header in the selectors as a recall does, the anchors included.
+    void showActiveHeader();
     /// A short list writes only the first headers.
     void reloadHeaders(const QList<header_data>& data);
-    /// Before records are reloaded: their words that the library does not know keep the "User" numbers that
-    /// the records give them. The first record of a word or a number counts.
-    void restoreUserNumbers(const QList<header_data>& data) const;
+    /// Gives the words of records that the library does not hold temporary records of the names that the
+    /// presets bear, so that these stay when the records are reloaded. The first record of a word counts, and
+    /// the first word of a "User" number.
+    void nameUnknownScales(const QList<header_data>& data) const;
     /// Refreshes the headers of a scale word, or all for an empty one.
     void updateHeaderScenics(const QString& word);
 

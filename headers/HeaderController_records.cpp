@@ -5,6 +5,8 @@
 #include "app/MainWnd.h"
 #include "keys/key_roles.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <bitset>
 
@@ -84,18 +86,28 @@ void HeaderController::reloadHeaders(const QList<header_data>& data)
     }
 }
 
-void HeaderController::restoreUserNumbers(const QList<header_data>& data) const
+void HeaderController::nameUnknownScales(const QList<header_data>& data) const
 {
+    DatabaseLibrary& library = mainWnd->library;
     std::bitset<lastUserNumber + 1> taken;
+    QSet<QString> named;
+    for (int i = data.size(); i < headers.size(); ++i) { // these keep what they have
+        taken.set(static_cast<std::size_t>(userNumber(headers.at(i)->record)));
+        if (holds(headers.at(i), headers.at(i)->record.scaleData))
+            named.insert(headers.at(i)->record.scaleData);
+    }
+    taken.reset(0); // of no number
     for (const header_data& record : data) {
-        const int number = userNumber(record);
         const QString& word = record.scaleData;
-        if (number == 0 || taken[static_cast<std::size_t>(number)] || !record.scaleOn || word.isEmpty() ||
-            mainWnd->library.containsScale(word, DatabaseLibrary::LibraryRole))
+        const auto number = static_cast<std::size_t>(userNumber(record));
+        const bool nameless = record.nameScenic1.isEmpty() && record.nameScenic2.isEmpty();
+        if (!record.scaleOn || word.isEmpty() || nameless || taken[number] || named.contains(word) ||
+            library.containsScale(word, DatabaseLibrary::LibraryRole))
             continue;
-        taken.set(static_cast<std::size_t>(number));
-        mainWnd->library.setScaleData(word, HeaderItem::temporaryScale(word, number),
-                                      DatabaseLibrary::CustomRole);
+        taken.set(number, number != 0);
+        named.insert(word);
+        library.setScaleData(word, HeaderItem::temporaryScale(word, record.nameScenic1, record.nameScenic2),
+                             DatabaseLibrary::CustomRole);
     }
 }
 

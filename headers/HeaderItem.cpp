@@ -124,7 +124,9 @@ void HeaderItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option
         return;
     painter->setFont(font);
     painter->setPen(textColour(currentStatus));
-    painter->drawText(QRectF(tonicRect).translated(offset()), Qt::AlignCenter, record.nameTonic);
+    constexpr int longest = 3; // characters that the badge could show
+    painter->drawText(QRectF(tonicRect).translated(offset()), Qt::AlignCenter,
+                      record.nameTonic.left(longest));
 }
 
 void HeaderItem::copyHeadersData(const HeaderItem* source)

@@ -44,8 +44,9 @@ public:
     /// Takes the names from the library. A scale that the library does not hold gets a temporary record
     /// named "User" and a number; a scale that is off or empty has no names.
     void updateScenic();
-    /// The record of a played word that is in no category: its names are "User" and the number.
-    [[nodiscard]] static scale_data temporaryScale(const QString& word, int number);
+    /// The record of a played word that is in no category. Its title is its two names.
+    [[nodiscard]] static scale_data temporaryScale(const QString& word, const QString& name1,
+                                                   const QString& name2);
     void setNameScenic1(const QString& name);
     void setNameScenic2(const QString& name);
     void setNameTonic(const QString& name);

@@ -4,6 +4,7 @@
 
 #include "app/MainWnd.h"
 #include "headers/HeaderController.h"
+#include "library/shown_text.h"
 
 void HeaderItem::takeNamesFromLibrary()
 {
@@ -29,14 +30,9 @@ void HeaderItem::updateScenic()
         setNameScenic2(scale.abbr2);
 }
 
-scale_data HeaderItem::temporaryScale(const QString& word, int number)
+scale_data HeaderItem::temporaryScale(const QString& word, const QString& name1, const QString& name2)
 {
-    scale_data scale;
-    scale.scale = word;
-    scale.abbr1 = tr("User");
-    scale.abbr2 = QString::number(number);
-    scale.title = scale.abbr1 + QLatin1Char(' ') + scale.abbr2;
-    return scale;
+    return {word, name1, name2, QString(name1 + QLatin1Char(' ') + name2).trimmed(), {}};
 }
 
 scale_data HeaderItem::libraryRecord()
@@ -47,7 +43,8 @@ scale_data HeaderItem::libraryRecord()
     // Its own number must not count as taken.
     record.nameScenic1.clear();
     record.nameScenic2.clear();
-    scale = temporaryScale(record.scaleData, mainWnd->headerController->findMinUserNum());
+    scale = temporaryScale(record.scaleData, tr("User"),
+                           QString::number(mainWnd->headerController->findMinUserNum()));
     mainWnd->library.setScaleData(record.scaleData, scale, DatabaseLibrary::CustomRole);
     return scale;
 }
@@ -77,15 +74,14 @@ QString HeaderItem::describeScale() const
     if (!record.scaleOn || record.scaleData.isEmpty())
         return {};
     if (!mainWnd->library.getScaleData(record.scaleData, scale, DatabaseLibrary::AnyRole))
-        return record.scaleData;
-    return tr("%1 (%2 %3)").arg(scale.title, scale.abbr1, scale.abbr2);
+        return shownText(record.scaleData);
+    return tr("%1 (%2 %3)").arg(shownText(scale.title), shownText(scale.abbr1), shownText(scale.abbr2));
 }
 
 QString HeaderItem::describe() const
 {
-    const QString tonic = !record.tonicOn              ? QString()
-                          : record.nameTonic.isEmpty() ? record.tonicData
-                                                       : record.nameTonic;
+    const QString& name = record.nameTonic.isEmpty() ? record.tonicData : record.nameTonic;
+    const QString tonic = record.tonicOn ? shownText(name) : QString();
     const QString scale = describeScale();
     QStringList locked;
     if (!tonic.isEmpty())

@@ -5,6 +5,8 @@
 
 #include <QGraphicsSceneMouseEvent>
 
+#include <utility>
+
 namespace {
 
 // Hidden items are never found, so the selectors sleep with the power off. Black keys lie above white ones.
@@ -72,18 +74,23 @@ void TonicScene::click(TonicKeyItem* key)
         key->handleHiddenMouseMove();
 }
 
+void TonicScene::endGesture()
+{
+    if (pressedKey)
+        emit pressedKey->mouseReleased(pressedKey);
+    mouseDown = false;
+    pressedKey = lastKey = nullptr;
+    pressedSwitch = nullptr;
+}
+
 void TonicScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 {
     QGraphicsScene::mouseReleaseEvent(event);
     if (event->button() != Qt::LeftButton || !mouseDown)
         return;
-    mouseDown = false;
     if (isClick(event->scenePos()))
-        click(pressedKey);
-    else if (pressedKey)
-        emit pressedKey->mouseReleased(pressedKey);
+        click(std::exchange(pressedKey, nullptr));
     if (pressedSwitch && topmost<SwitchItem>(*this, event->scenePos()) == pressedSwitch)
         pressedSwitch->switchStatus(true);
-    pressedKey = lastKey = nullptr;
-    pressedSwitch = nullptr;
+    endGesture();
 }

@@ -17,6 +17,9 @@ class TonicScene : public QGraphicsScene
 public:
     using QGraphicsScene::QGraphicsScene;
 
+    /// Ends a gesture whose release will not come; what it has changed stays.
+    void endGesture();
+
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
     /// The second press of a double click counts as any other press.

@@ -5,6 +5,7 @@
 #include "library/DatabaseLibraryPrivate.h"
 #include "library/default_tables.h"
 
+#include <QHash>
 #include <QMultiMap>
 #include <QSet>
 
@@ -50,8 +51,9 @@ void DatabaseLibrary::loadDefault()
 void DatabaseLibrary::getData(QMap<QString, scale_data>& data) const
 {
     QMultiMap<QString, scale_data> all;
-    for (const QString& category : qAsConst(d->recentCategories)) {
-        const QList<QString> words = scalesFromCategory(category);
+    for (int i = 0; i < d->categoryNames.size(); ++i) { // the map has an order of its own
+        const QString& category = d->categoryNames.at(i);
+        const QList<QString>& words = d->categoryScales.at(i);
         if (words.isEmpty())
             all.insert(category, scale_data());
         scale_data record;

@@ -17,30 +17,63 @@ const QString headersKey = QStringLiteral("SorvaneDefaultHeadersArray");
 const QString powerKey = QStringLiteral("SorvanePowerButtonPosition");
 const QString anchorsKey = QStringLiteral("SorvaneAnchorPosition");
 
+HeaderController& presets()
+{
+    return *mainWnd->headerController;
+}
+
+QList<header_data> presentRecords()
+{
+    QList<header_data> records;
+    presets().getHeadersData(records);
+    return records;
+}
+
 void importScales(const QJsonArray& array)
 {
     LibraryInfo info;
     info.read(array);
     QMap<QString, scale_data> scales;
     info.getData(scales);
-    mainWnd->library.setData(scales);
+    DatabaseLibrary& library = mainWnd->library;
+    const QString category = library.currentCategory();
+    library.setData(scales);
+    // The user stands where the category of that name is now.
+    if (library.currentCagetoryIndex() >= 0)
+        library.setCurrentCategoryIndex(qMax(library.indexOfCategory(category, 0), 0));
+    // The presets stay: what the new library does not hold keeps its names, what it holds takes them.
+    presets().nameUnknownScales(presentRecords());
+    presets().updateHeaderScenics({});
 }
 
 // Kept: the flags' places in the file stand behind the present ones in the list, so the flags stay.
 void importHeaders(const QJsonArray& array)
 {
-    HeaderController& controller = *mainWnd->headerController;
     HeaderInfo info(true);
     QList<QPointF> positions;
-    controller.getHeadersPosition(positions);
+    presets().getHeadersPosition(positions);
     info.setPositions(positions);
     info.read(array);
     QList<header_data> records;
     info.getPositions(positions);
     info.getData(records);
-    controller.updatePostions(positions);
-    controller.restoreUserNumbers(records);
-    controller.reloadHeaders(records);
+    presets().updatePostions(positions);
+    presets().nameUnknownScales(records);
+    presets().reloadHeaders(records);
+}
+
+// The button moves as if dropped by a hand, which exchanges two presets, activates one and switches on. A
+// file has its own words on all that.
+void movePowerButton(double x)
+{
+    const bool power = mainWnd->isPowerOn();
+    const QList<header_data> records = presentRecords();
+    HeaderItem* active = presets().activeHeader;
+    mainWnd->findPowerItemPosition({x, mainWnd->powerItem->y()});
+    presets().reloadHeaders(records);
+    if (active)
+        active->setStatus(header_active);
+    mainWnd->setPower(power);
 }
 
 } // namespace
@@ -50,18 +83,25 @@ void DbReadWriter::importJsonDatabase(const QJsonObject& root)
     if (root.contains(scalesKey))
         importScales(root.value(scalesKey).toArray());
     restoreHeaders(root);
-    if (root.contains(powerKey)) {
-        const double x = selector_access::onStage(root.value(powerKey).toDouble());
-        mainWnd->findPowerItemPosition({x, mainWnd->powerItem->y()});
-        restoreHeaders(root); // the button has exchanged two presets on its way
-    }
+    if (root.contains(powerKey))
+        movePowerButton(selector_access::onStage(root.value(powerKey).toDouble()));
     if (root.contains(anchorsKey))
         selector_access::placeAnchors(root.value(anchorsKey).toDouble());
 }
 
+bool DbReadWriter::holdsHeaders(const QJsonObject& root)
+{
+    return root.contains(headersKey);
+}
+
+bool DbReadWriter::placesAnchors(const QJsonObject& root)
+{
+    return root.contains(anchorsKey);
+}
+
 void DbReadWriter::restoreHeaders(const QJsonObject& root)
 {
-    if (root.contains(headersKey))
+    if (holdsHeaders(root))
         importHeaders(root.value(headersKey).toArray());
 }
 
@@ -75,11 +115,9 @@ void DbReadWriter::exportJsonDatabase(QJsonObject& root)
     library.write(scaleArray);
 
     HeaderInfo headers(true);
-    QList<header_data> records;
     QList<QPointF> positions;
-    mainWnd->headerController->getHeadersData(records);
-    mainWnd->headerController->getHeadersPosition(positions);
-    headers.setData(records);
+    presets().getHeadersPosition(positions);
+    headers.setData(presentRecords());
     headers.setPositions(positions);
     QJsonArray headerArray;
     headers.write(headerArray);

@@ -12,6 +12,9 @@ public:
     static void importJsonDatabase(const QJsonObject& root);
     /// Sets four keys in the root; others stay.
     static void exportJsonDatabase(QJsonObject& root);
-    /// Writes the presets of the file once more: taking up the rest of its state has moved some of them.
+    /// Writes the presets of the file once more: taking up the rest of its state writes into some of them.
     static void restoreHeaders(const QJsonObject& root);
+    /// What a root names.
+    [[nodiscard]] static bool holdsHeaders(const QJsonObject& root);
+    [[nodiscard]] static bool placesAnchors(const QJsonObject& root);
 };

@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <utility>
+
 /// What turns a list of records into a JSON array and back. Nothing fails: a missing key or a wrong type
 /// reads as "", false or 0.
 class JsonInfo

@@ -127,10 +127,17 @@ void SettingsStore::setPointFProperty(const QString& name, const QPointF& point)
     setSettingsProperty(pointKeyY.arg(name), point.y());
 }
 
-void SettingsStore::rememberPorts(const QJsonObject& root)
+SettingsStore::Ports SettingsStore::rememberPorts(const QJsonObject& root)
 {
-    for (auto member = root.begin(); member != root.end(); ++member)
-        if (member.key().startsWith(defaultKeys.at(key_midi_in_port)) ||
-            member.key().startsWith(defaultKeys.at(key_midi_out_port)))
-            setSettingsProperty(member.key(), member.value().toVariant());
+    Ports ports;
+    for (auto member = root.begin(); member != root.end(); ++member) {
+        const QString key = member.key();
+        const bool input = key.startsWith(defaultKeys.at(key_midi_in_port));
+        if (!input && !key.startsWith(defaultKeys.at(key_midi_out_port)))
+            continue;
+        const int prefix = defaultKeys.at(input ? key_midi_in_port : key_midi_out_port).size();
+        (input ? ports.inputs : ports.outputs).append(key.mid(prefix));
+        setSettingsProperty(key, member.value().toVariant());
+    }
+    return ports;
 }

@@ -51,8 +51,12 @@ public:
     /// A point, kept as two numbers.
     [[nodiscard]] static QPointF getPointFProperty(const QString& name, const QPointF& fallback);
     static void setPointFProperty(const QString& name, const QPointF& point);
-    /// Takes the port selections of a file's root, and nothing else of it.
-    static void rememberPorts(const QJsonObject& root);
+    struct Ports
+    {
+        QStringList inputs, outputs; ///< by name
+    };
+    /// Takes the port selections of a file's root, and nothing else of it. Returns the ports that it names.
+    static Ports rememberPorts(const QJsonObject& root);
 
 private:
     static QString load(const QString& file, QJsonObject& root);

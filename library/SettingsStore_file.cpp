@@ -11,6 +11,7 @@
 #include "keys/key_roles.h"
 #include "library/DbReadWriter.h"
 #include "library/database_file.h"
+#include "library/scale_word.h"
 #include "library/settings_keys.h"
 #include "logging/categories.h"
 #include "screen/CenterScreen.h"
@@ -18,6 +19,7 @@
 #include <QJsonDocument>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace selector_access;
@@ -46,6 +48,15 @@ void recallHeader(const QVariant& keyNumber)
 void setTonic(const QVariant& name)
 {
     tonicSelector().setTonicModifier(name.toString(), true, true);
+}
+
+/// Whole or not at all: the selector itself would keep the degrees before a wrong letter. It does not read
+/// the first letter, nor those behind the twelfth.
+void setScale(const QString& word)
+{
+    constexpr int degrees = 12;
+    if (isScaleWord(QLatin1Char('x') + word.mid(1, degrees - 1)))
+        scaleSelector().setScaleModifier(word, true);
 }
 
 void showLibrary(const QVariant& opened)
@@ -79,8 +90,7 @@ const QVector<Taker>& takers()
          [](const QVariant& on) { setSwitch(scaleSelector(), on.toBool(), true); }},
         {defaultKeys[key_tonic_modifier], &setTonic},
         {hiddenTonicKey, &setTonic},
-        {defaultKeys[key_scale_modifier],
-         [](const QVariant& word) { scaleSelector().setScaleModifier(word.toString(), true); }},
+        {defaultKeys[key_scale_modifier], [](const QVariant& word) { setScale(word.toString()); }},
         {defaultKeys[key_anchor_x], [](const QVariant& x) { placeAnchors(x.toDouble()); }},
         {defaultKeys[key_power_on], [](const QVariant& on) { mainWnd->setPower(on.toBool()); }},
         {defaultKeys[key_current_scene],
@@ -88,6 +98,25 @@ const QVector<Taker>& takers()
         {defaultKeys[key_library_opened], &showLibrary},
     };
     return all;
+}
+
+bool namesSelectors(const QJsonObject& root)
+{
+    const settings_key keys[] = {key_tonic_on, key_scale_on, key_tonic_modifier, key_scale_modifier};
+    return std::any_of(std::begin(keys), std::end(keys),
+                       [&](settings_key key) { return root.contains(defaultKeys.at(key)); });
+}
+
+// The next recall stores the selectors in the active preset. If presets came without selectors, that would
+// take the loaded one away.
+void showLoadedPreset(const QJsonObject& root)
+{
+    if (!DbReadWriter::holdsHeaders(root))
+        return;
+    const qreal place = anchorsPlace();
+    mainWnd->headerController->showActiveHeader();
+    if (DbReadWriter::placesAnchors(root) || root.contains(defaultKeys.at(key_anchor_x)))
+        placeAnchors(place);
 }
 
 } // namespace
@@ -146,11 +175,12 @@ void SettingsStore::processAfterLoad(const QJsonObject& loaded)
     for (const Taker& taker : takers())
         if (loaded.contains(taker.key))
             taker.take(properties.value(taker.key));
+    if (!namesSelectors(loaded))
+        showLoadedPreset(loaded);
     DbReadWriter::restoreHeaders(loaded);
-    // The anchors have moved without a remap.
+    // The anchors have moved without a remap, which with the power off leaves the black keys blue.
     mainWnd->powerItem->remap();
-    if (!mainWnd->isPowerOn())
-        mainWnd->setPower(false);
+    mainWnd->powerItem->setAllBlackBlue(mainWnd->isPowerOn());
     mainWnd->checkScaleMatches(true);
 }
 

@@ -3,7 +3,7 @@
 #include <QJsonObject>
 #include <QString>
 
-/// Reads the JSON document of a database file, before anything is believed of it.
+/// The database file as a file: what can be told before anything in it is believed, or written.
 namespace database_file {
 
 struct Content

@@ -1,5 +1,7 @@
 #include "screen/AbstractListWidget.h"
 
+#include "library/shown_text.h"
+
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMimeData>
@@ -91,9 +93,10 @@ void AbstractListWidget::trackIndicator(const QPoint& pos, int except)
 
 void AbstractListWidget::dressItem(QListWidgetItem* item, const QString& text, const QString& key) const
 {
-    item->setText(text);
-    item->setToolTip(Qt::mightBeRichText(text) ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped())
-                                               : text);
+    const QString line = shownText(text);
+    item->setText(line);
+    item->setToolTip(Qt::mightBeRichText(line) ? QStringLiteral("<qt>%1</qt>").arg(line.toHtmlEscaped())
+                                               : line);
     item->setData(Qt::UserRole, key);
     // Narrower than the list: a row is then as wide as the list and its text is elided.
     item->setSizeHint({1, rowHeight});

@@ -2,6 +2,7 @@
 
 #include "app/MainWnd.h"
 #include "keys/pictures.h"
+#include "library/shown_text.h"
 #include "screen/CenterScreen.h"
 #include "screen/library_name.h"
 
@@ -11,6 +12,7 @@
 namespace {
 
 constexpr qreal ghostOpacity = 0.35;
+constexpr int longest = 40; // characters of a plate; the widest shows some twenty
 const QColor ink(0x57, 0x54, 0x50);
 
 } // namespace
@@ -48,9 +50,10 @@ void LibraryButton::showPressed(bool down)
 
 void LibraryButton::setText(const QString& words)
 {
-    if (plateText == words)
+    const QString line = shownText(words, longest);
+    if (plateText == line)
         return;
-    plateText = words;
+    plateText = line;
     update();
 }
 
