@@ -8,7 +8,7 @@
 namespace database_file {
 namespace {
 
-constexpr qint64 largest = 32 * 1024 * 1024; // 16,000 scales as long as the longest of the factory
+constexpr qint64 largest = 16 * 1024 * 1024; // more than 20,000 scales like those of the factory
 // Written text is indented by the depth of each value, so a small file of great depth would become a huge
 // one.
 constexpr int deepest = 8;
@@ -73,6 +73,8 @@ Content read(const QString& file)
     QFile in(file);
     if (!in.open(QIODevice::ReadOnly))
         return failed(in.errorString());
+    if (in.size() == 0) // also what the system makes up as it is read, which may block
+        return failed(QCoreApplication::translate("database_file", "It is empty."));
     const QByteArray text = in.read(qMin(in.size(), largest) + 1);
     if (in.error() != QFileDevice::NoError)
         return failed(in.errorString());
@@ -84,7 +86,7 @@ Content read(const QString& file)
 QString whyNotWritable(const QString& file)
 {
     const QFileInfo info = targetOf(file), folder(info.path());
-    if (info.exists() && !info.isFile())
+    if (info.isSymLink() || (info.exists() && !info.isFile())) // links in a circle, or none of ours
         return QCoreApplication::translate("database_file", "It is not a regular file.");
     if (!folder.isDir())
         return QCoreApplication::translate("database_file", "There is no such folder.");
