@@ -57,6 +57,7 @@ void importHeaders(const QJsonArray& array)
     QList<header_data> records;
     info.getPositions(positions);
     info.getData(records);
+    records = records.mid(0, presets().headers.size());
     presets().updatePostions(positions);
     presets().nameUnknownScales(records);
     presets().reloadHeaders(records);
@@ -89,9 +90,9 @@ void DbReadWriter::importJsonDatabase(const QJsonObject& root)
         selector_access::placeAnchors(root.value(anchorsKey).toDouble());
 }
 
-bool DbReadWriter::holdsHeaders(const QJsonObject& root)
+int DbReadWriter::headerCount(const QJsonObject& root)
 {
-    return root.contains(headersKey);
+    return root.value(headersKey).toArray().size();
 }
 
 bool DbReadWriter::placesAnchors(const QJsonObject& root)
@@ -101,7 +102,7 @@ bool DbReadWriter::placesAnchors(const QJsonObject& root)
 
 void DbReadWriter::restoreHeaders(const QJsonObject& root)
 {
-    if (holdsHeaders(root))
+    if (root.contains(headersKey))
         importHeaders(root.value(headersKey).toArray());
 }
 

@@ -14,7 +14,7 @@ public:
     static void exportJsonDatabase(QJsonObject& root);
     /// Writes the presets of the file once more: taking up the rest of its state writes into some of them.
     static void restoreHeaders(const QJsonObject& root);
-    /// What a root names.
-    [[nodiscard]] static bool holdsHeaders(const QJsonObject& root);
+    /// How many presets a root holds; it may be more than there are.
+    [[nodiscard]] static int headerCount(const QJsonObject& root);
     [[nodiscard]] static bool placesAnchors(const QJsonObject& root);
 };

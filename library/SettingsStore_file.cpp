@@ -111,10 +111,11 @@ bool namesSelectors(const QJsonObject& root)
 // take the loaded one away.
 void showLoadedPreset(const QJsonObject& root)
 {
-    if (!DbReadWriter::holdsHeaders(root))
-        return;
+    HeaderController& presets = *mainWnd->headerController;
+    if (presets.headers.indexOf(presets.activeHeader) >= DbReadWriter::headerCount(root))
+        return; // it is not among them
     const qreal place = anchorsPlace();
-    mainWnd->headerController->showActiveHeader();
+    presets.showActiveHeader();
     if (DbReadWriter::placesAnchors(root) || root.contains(defaultKeys.at(key_anchor_x)))
         placeAnchors(place);
 }

@@ -12,8 +12,8 @@ struct Content
     QString error; ///< in the user's words, "" if the root was read
 };
 
-/// Reads regular files of at most 128 MiB that hold one JSON object. Anything else gives an error; nothing
-/// blocks.
+/// Reads regular files of at most 16 MiB that hold one JSON object, nested at most 8 deep. Anything else
+/// gives an error; nothing blocks.
 [[nodiscard]] Content read(const QString& file);
 
 /// Why no file could be written there, as far as it can be told before; else "".
