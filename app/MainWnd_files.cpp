@@ -3,6 +3,7 @@
 #include "app/MainWnd.h"
 
 #include "library/SettingsStore.h"
+#include "library/shown_text.h"
 #include "screen/AlertWidget.h"
 
 #include <QDir>
@@ -76,7 +77,9 @@ QString MainWnd::askFile(bool toSave)
 
 void MainWnd::alertFile(const QString& text, const QString& file, const QString& reason)
 {
-    AlertWidget alert(QString(), text.arg(file.toHtmlEscaped(), reason.toHtmlEscaped()),
+    constexpr int longest = 40; // an alert does not break a word
+    const QString name = shownText(QFileInfo(file).fileName(), longest);
+    AlertWidget alert(QString(), text.arg(name.toHtmlEscaped(), reason.toHtmlEscaped()),
                       QStringLiteral("  OK  "), QString(), alert_error, this);
     static_cast<void>(alert.exec());
 }
