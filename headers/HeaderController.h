@@ -61,9 +61,10 @@ public:
     void showActiveHeader();
     /// A short list writes only the first headers.
     void reloadHeaders(const QList<header_data>& data);
-    /// Gives the words of records that the library does not hold temporary records of the names that the
-    /// presets bear, so that these stay when the records are reloaded. The first record of a word counts, and
-    /// the first word of a "User" number.
+    /// Before records are reloaded: replaces the temporary records of the library by those of the words in
+    /// `data` that it does not hold, with the names that the presets bear, so that these stay. The first
+    /// record of a word counts, and the first word of a "User" number. Presets beyond a short list keep
+    /// theirs.
     void nameUnknownScales(const QList<header_data>& data) const;
     /// Refreshes the headers of a scale word, or all for an empty one.
     void updateHeaderScenics(const QString& word);

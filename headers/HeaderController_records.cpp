@@ -27,6 +27,30 @@ bool holds(const HeaderItem* header, const QString& word)
     return header && header->record.scaleOn && header->record.scaleData == word;
 }
 
+/// Which words have names, and which "User" numbers are taken, while presets are loaded.
+class NamesGiven
+{
+public:
+    [[nodiscard]] bool has(const QString& word) const { return words.contains(word); }
+    /// False if the record has no played word, no names, or comes after another claim to its word or its
+    /// number.
+    [[nodiscard]] bool take(const header_data& record)
+    {
+        const auto number = static_cast<std::size_t>(userNumber(record));
+        const bool named = !record.nameScenic1.isEmpty() || !record.nameScenic2.isEmpty();
+        if (!record.scaleOn || record.scaleData.isEmpty() || !named || has(record.scaleData) ||
+            numbers[number])
+            return false;
+        words.insert(record.scaleData);
+        numbers.set(number, number != 0);
+        return true;
+    }
+
+private:
+    QSet<QString> words;
+    std::bitset<lastUserNumber + 1> numbers;
+};
+
 } // namespace
 
 void HeaderController::removeUnusedTempRecords()
@@ -89,26 +113,19 @@ void HeaderController::reloadHeaders(const QList<header_data>& data)
 void HeaderController::nameUnknownScales(const QList<header_data>& data) const
 {
     DatabaseLibrary& library = mainWnd->library;
-    std::bitset<lastUserNumber + 1> taken;
-    QSet<QString> named;
-    for (int i = data.size(); i < headers.size(); ++i) { // these keep what they have
-        taken.set(static_cast<std::size_t>(userNumber(headers.at(i)->record)));
-        if (holds(headers.at(i), headers.at(i)->record.scaleData))
-            named.insert(headers.at(i)->record.scaleData);
-    }
-    taken.reset(0); // of no number
-    for (const header_data& record : data) {
-        const QString& word = record.scaleData;
-        const auto number = static_cast<std::size_t>(userNumber(record));
-        const bool nameless = record.nameScenic1.isEmpty() && record.nameScenic2.isEmpty();
-        if (!record.scaleOn || word.isEmpty() || nameless || taken[number] || named.contains(word) ||
-            library.containsScale(word, DatabaseLibrary::LibraryRole))
-            continue;
-        taken.set(number, number != 0);
-        named.insert(word);
-        library.setScaleData(word, HeaderItem::temporaryScale(word, record.nameScenic1, record.nameScenic2),
-                             DatabaseLibrary::CustomRole);
-    }
+    NamesGiven given;
+    for (int i = data.size(); i < headers.size(); ++i) // these keep what they have
+        static_cast<void>(given.take(headers.at(i)->record));
+    const QList<QString> before = library.customScales();
+    for (const QString& word : before)
+        if (!given.has(word))
+            library.removeScale(word);
+    for (const header_data& record : data)
+        if (!library.containsScale(record.scaleData, DatabaseLibrary::LibraryRole) && given.take(record))
+            library.setScaleData(
+                record.scaleData,
+                HeaderItem::temporaryScale(record.scaleData, record.nameScenic1, record.nameScenic2),
+                DatabaseLibrary::CustomRole);
 }
 
 void HeaderController::updateHeaderScenics(const QString& word)
