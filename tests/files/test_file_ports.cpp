@@ -3,6 +3,7 @@
 #include "FakeMidiService.h"
 #include "FileFixture.h"
 #include "app/MidiService.h"
+#include "app/start.h"
 #include "library/SettingsStore.h"
 #include "screen/CenterScreen.h"
 
@@ -19,6 +20,9 @@ private slots:
     void storeSaysWhatTheRowsSayBehindAnImport();
     void rememberedPortsAreSelectedAtTheStart();
     void portsThatAreAwayStayInTheFile();
+    void portThatIsNamedAtTheStartIsOpenedWhateverWasRemembered_data();
+    void portThatIsNamedAtTheStartIsOpenedWhateverWasRemembered();
+    void twinsAreRememberedIfOneIsSelected();
 
 private:
     QStringList selected() const;
@@ -91,6 +95,46 @@ void TestFilePorts::portsThatAreAwayStayInTheFile()
     const QJsonObject root = exported();
     QCOMPARE(root.value("MidiInPort-Gone"), QJsonValue(true));
     QCOMPARE(root.value("MidiOutPort-Gone"), QJsonValue(false));
+}
+
+void TestFilePorts::portThatIsNamedAtTheStartIsOpenedWhateverWasRemembered_data()
+{
+    QTest::addColumn<QStringList>("named");
+    QTest::addColumn<QStringList>("opened");
+    QTest::newRow("a system's") << QStringList{"Synth"} << QStringList{"in Synth", "out Synth"};
+    QTest::newRow("its own") << QStringList{"Sorvane MIDI"}
+                             << QStringList{"in " + virtualInName, "out " + virtualOutName};
+    QTest::newRow("both") << QStringList{"Synth", "Sorvane MIDI"}
+                          << QStringList{"in " + virtualInName, "in Synth", "out " + virtualOutName,
+                                         "out Synth"};
+}
+
+void TestFilePorts::portThatIsNamedAtTheStartIsOpenedWhateverWasRemembered()
+{
+    QFETCH(QStringList, named);
+    QFETCH(QStringList, opened);
+    closeWindow();
+    choose(true, true, false, false);
+    CommandLine wanted;
+    wanted.inPorts = wanted.outPorts = named;
+    QCOMPARE(start::selectPorts(wanted), QString());
+    openWindow();
+    QCOMPARE(selected(), opened);
+}
+
+void TestFilePorts::twinsAreRememberedIfOneIsSelected()
+{
+    closeWindow();
+    rig.names = QStringList{QStringLiteral("Piano"), QStringLiteral("Piano")};
+    openWindow();
+    for (const int row : {0, 1}) {
+        window->centerScreen->inPortList->item(row)->setSelected(true);
+        QVERIFY(SettingsStore::getMidiInPortSelected(QStringLiteral("Piano"), false));
+        import({});
+        QVERIFY(SettingsStore::getMidiInPortSelected(QStringLiteral("Piano"), false));
+        window->centerScreen->inPortList->item(row)->setSelected(false);
+        QVERIFY(!SettingsStore::getMidiInPortSelected(QStringLiteral("Piano"), true));
+    }
 }
 
 QTEST_MAIN(TestFilePorts)
