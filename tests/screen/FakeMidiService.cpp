@@ -105,6 +105,21 @@ public:
 MidiService::MidiService() = default;
 MidiService::~MidiService() = default;
 void MidiService::choose(Wanted) {}
+std::optional<MidiService::Wanted> MidiService::wantedFromName(const QString&)
+{
+    return Wanted::any;
+}
+
+QString MidiService::backEndName()
+{
+    return QStringLiteral("made up");
+}
+
+QString MidiService::missingText()
+{
+    return {};
+}
+
 bool MidiService::isAvailable()
 {
     return true;
