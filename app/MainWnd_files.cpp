@@ -13,7 +13,6 @@
 QString MainWnd::importDatabase(const QString& file)
 {
     endGestures();
-    releaseHeldNotes(); // the keys may mean something else by the time they are let go
     const QString error = SettingsStore::importDatabase(file);
     // The file's own words on ports were for a start. Here the rows say what is open.
     storePortSelection();

@@ -16,8 +16,8 @@ public:
     /// The words of a category, or null.
     [[nodiscard]] QList<QString>* wordsOf(const QString& category);
     [[nodiscard]] const QList<QString>* wordsOf(const QString& category) const;
-    /// Keeps the records whose words are new, and returns all their words once. Leaves out what has no word or
-    /// no title.
+    /// Keeps the records whose words are new, and returns all their words once. Leaves out what has no word
+    /// or no title.
     [[nodiscard]] QList<QString> takeRecords(const QList<scale_data>& records);
     void moveToFront(const QString& category);
     /// False after a rename, and where the default locale is no more the one of the last sort.

@@ -147,6 +147,7 @@ QString SettingsStore::load(const QString& file, QJsonObject& root)
     root = content.root;
     for (auto member = root.begin(); member != root.end(); ++member)
         setSettingsProperty(member.key(), member.value().toVariant());
+    mainWnd->releaseHeldNotes(); // the keys may mean something else by the time they are let go
     DbReadWriter::importJsonDatabase(root);
     return {};
 }

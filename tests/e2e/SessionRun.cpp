@@ -117,16 +117,6 @@ QVariant SessionRun::value(const QString& key) const
     return QJsonDocument::fromJson(text()).object().value(key).toVariant();
 }
 
-// As in every such test: a turn of the program's loop lies between the hand's event and the second echo.
-SessionRun::Messages SessionRun::heard(int expected)
-{
-    Messages messages = client->collect(expected);
-    messages += client->answerTo({});
-    if (expected == 0)
-        messages += client->answerTo({});
-    return messages;
-}
-
 bool SessionRun::hasWindow(const QString& title)
 {
     return xdotool(searchFor(title));

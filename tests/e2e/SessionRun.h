@@ -49,8 +49,7 @@ public:
 
     [[nodiscard]] JackPlayer& player() { return *client; }
     [[nodiscard]] Messages answerTo(const Messages& played) { return client->answerTo(played); }
-    /// What the hand has made the program send, read until the program has surely taken all of its events.
-    [[nodiscard]] Messages heard(int expected);
+    [[nodiscard]] Messages heard(int expected) { return client->heardFromHand(expected); }
     /// The top windows of the program, by a regular expression for their titles.
     [[nodiscard]] static bool hasWindow(const QString& title);
     /// Brings the keyboard's focus there, as a window manager does, once the window has come.

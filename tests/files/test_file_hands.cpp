@@ -17,6 +17,7 @@ private slots:
     void heldNotesEndBeforeTheMapChanges();
     void heldNoteIsNotEndedTwice();
     void notesThatNobodyHoldsAreNotEnded();
+    void fileThatCannotBeReadEndsNoNote();
     void selectorForgetsTheHandBehindTheFileDialog_data();
     void selectorForgetsTheHandBehindTheFileDialog();
     void buttonIsNotLeftPressedBehindTheFileDialog();
@@ -101,6 +102,16 @@ void TestFileHands::notesThatNobodyHoldsAreNotEnded()
     port->clear();
     import({});
     QCOMPARE(port->takeLists(), Messages());
+}
+
+void TestFileHands::fileThatCannotBeReadEndsNoNote()
+{
+    play(0x90, 60);
+    port->clear();
+    QVERIFY(!window->importDatabase(pathOf("nothing.svdb")).isEmpty());
+    QCOMPARE(port->takeLists(), Messages());
+    play(0x80, 60);
+    QCOMPARE(port->takeLists(), (Messages{{0x80, 60, 0}}));
 }
 
 void TestFileHands::selectorForgetsTheHandBehindTheFileDialog_data()

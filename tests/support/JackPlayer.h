@@ -47,6 +47,9 @@ public:
     [[nodiscard]] QList<Message> collect(int count, int timeoutMs = 5000);
     /// Plays and returns what comes back before the echo of a control change sent behind it.
     [[nodiscard]] QList<Message> answerTo(const QList<Message>& messages);
+    /// What the hand at the screen has made the program send since the last call, read until the program has
+    /// surely taken all of its events. Waits for so many messages; surplus ones are returned too.
+    [[nodiscard]] QList<Message> heardFromHand(int expected);
     [[nodiscard]] quint32 now() const;
 
 private:

@@ -45,14 +45,3 @@ bool StageRun::waitForMoves(int count)
     const QString line = QStringLiteral("ResizableItem::mouseMoveEvent");
     return QTest::qWaitFor([&] { return program->errors().count(line) >= count; });
 }
-
-// The X server has passed the event on before the echo sets out, but the program's loop may look at its MIDI
-// events first: the second echo comes a turn of that loop later.
-StageRun::Messages StageRun::heard(int expected)
-{
-    Messages messages = player->collect(expected);
-    messages += player->answerTo({});
-    if (expected == 0)
-        messages += player->answerTo({});
-    return messages;
-}

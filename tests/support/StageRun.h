@@ -25,9 +25,7 @@ public:
 
     /// Waits until the program has taken so many moves of a hand that holds a key, all in all.
     [[nodiscard]] bool waitForMoves(int count);
-    /// What the hand has made the program send since the last call, read until the program has surely taken
-    /// all of its events. Waits for so many messages; surplus ones are returned too.
-    [[nodiscard]] Messages heard(int expected);
+    [[nodiscard]] Messages heard(int expected) { return player->heardFromHand(expected); }
     /// What the MIDI input makes it send.
     [[nodiscard]] Messages answerTo(const Messages& played) { return player->answerTo(played); }
 
