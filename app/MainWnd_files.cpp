@@ -13,7 +13,7 @@
 QString MainWnd::importDatabase(const QString& file)
 {
     endGestures();
-    const QString error = SettingsStore::importDatabase(file);
+    QString error = SettingsStore::importDatabase(file);
     // The file's own words on ports were for a start. Here the rows say what is open.
     storePortSelection();
     return error;

@@ -125,7 +125,7 @@ void showLoadedPreset(const QJsonObject& root)
 QString SettingsStore::importDatabase(const QString& file)
 {
     QJsonObject root;
-    const QString error = load(file, root);
+    QString error = load(file, root);
     if (error.isEmpty())
         processAfterLoad(root);
     return error;
@@ -155,7 +155,7 @@ QString SettingsStore::load(const QString& file, QJsonObject& root)
 // The file of that name is replaced as a whole, or not at all.
 QString SettingsStore::save(const QString& file)
 {
-    const QString obstacle = database_file::whyNotWritable(file);
+    QString obstacle = database_file::whyNotWritable(file);
     QSaveFile out(file);
     if (!obstacle.isEmpty())
         return obstacle;

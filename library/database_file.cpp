@@ -8,7 +8,7 @@
 namespace database_file {
 namespace {
 
-constexpr qint64 largest = 16 * 1024 * 1024; // more than 20,000 scales like those of the factory
+constexpr qint64 largest = qint64(16) * 1024 * 1024; // more than 20,000 scales like those of the factory
 // Written text is indented by the depth of each value, so a small file of great depth would become a huge
 // one.
 constexpr int deepest = 8;
