@@ -159,16 +159,14 @@ void MainWnd::showLibraryScreen(bool show)
 
 void MainWnd::showScene(int number)
 {
-    static constexpr void (CenterScreen::*setters[])() = {
-        &CenterScreen::setSceneDefault, &CenterScreen::setSceneClean, &CenterScreen::setSceneMIDIinOut,
-        &CenterScreen::setSceneCredits};
     if (number < CenterScreen::scene_default || number > CenterScreen::scene_credits)
         return;
     ui.buttonMIDIinOut->setChecked(false);
     ui.buttonCredits->setChecked(false);
     ui.hiddenLayer->hide();
     lowerHitAreas();
-    (centerScreen->*setters[number - CenterScreen::scene_default])();
+    centerScreen->currentScene = number;
+    centerScreen->setScenePrevious();
     raiseWayBack();
 }
 
