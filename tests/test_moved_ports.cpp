@@ -28,6 +28,8 @@ void TestMovedPorts::leavesKnownNamesAlone()
 {
     QCOMPARE(movedPorts({"Keys 24:0"}, {"Keys 24:0", "Keys 28:0"}), Moved());
     QCOMPARE(movedPorts({"Keys 24:0", "Keys 28:0"}, {"Keys 28:0"}), Moved()); // a second one has come
+    QCOMPARE(movedPorts({"Keys 24:0", "Keys 28:0"}, {"Keys 24:0", "Keys 20:0"}),
+             (Moved{{"Keys 28:0", "Keys 20:0"}})); // one of two has moved
 }
 
 void TestMovedPorts::leavesNamesWithoutNumbersAlone()
