@@ -11,13 +11,10 @@
 
 namespace {
 
-void addOptions(QCommandLineParser& parser)
+QList<QCommandLineOption> options()
 {
     const auto tr = [](const char* text) { return QCoreApplication::translate("CommandLine", text); };
-    parser.setApplicationDescription(tr("Plays any tonic and scale on the white keys of a MIDI keyboard."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addOptions({
+    return {
         {"headless", tr("Run without a window.")},
         {"power", tr("Set the power at start: on or off."), "on|off"},
         {"tonic", tr("Set the tonic at start: C, C#, D, ... B."), "NAME"},
@@ -33,10 +30,46 @@ void addOptions(QCommandLineParser& parser)
         {"import", tr("Take up the state in this database file at start."), "FILE"},
         {"export", tr("Write the state into this database file at the end."), "FILE"},
         {"session", tr("Go on where this file left off, if it exists, and write it at the end."), "FILE"},
+        {"log",
+         tr("Write a log file, of entries of this level and graver ones: all, debug, diag, info, warn, error "
+            "or fatal. --log alone means --log=error."),
+         "LEVEL"},
         {"debug", tr("Let the program's debug lines through.")},
-    });
+    };
+}
+
+void addOptions(QCommandLineParser& parser)
+{
+    const auto tr = [](const char* text) { return QCoreApplication::translate("CommandLine", text); };
+    parser.setApplicationDescription(tr("Plays any tonic and scale on the white keys of a MIDI keyboard."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions(options());
     parser.addPositionalArgument("qv_simple_logging", tr("Write log lines without time and number."),
                                  "[qv_simple_logging]");
+}
+
+/// Whether the argument behind this one is its value, whatever that looks like.
+bool takesTheNext(const QString& argument)
+{
+    const QList<QCommandLineOption> known = options();
+    return std::any_of(known.begin(), known.end(), [&](const QCommandLineOption& option) {
+        const QString name = option.names().constFirst();
+        return name != QLatin1String("log") && !option.valueName().isEmpty() &&
+               argument == QLatin1String("--") + name;
+    });
+}
+
+/// Writes the level behind an option that stands alone: the parser knows no value that may be left out.
+QStringList withLogLevel(QStringList arguments)
+{
+    for (int i = 1; i < arguments.size() && arguments[i] != QLatin1String("--"); ++i) {
+        if (takesTheNext(arguments[i]))
+            ++i;
+        else if (arguments[i] == QLatin1String("--log"))
+            arguments[i] = QStringLiteral("--log=error");
+    }
+    return arguments;
 }
 
 bool isTonic(const QString& name)
@@ -77,7 +110,7 @@ QString CommandLine::parse(const QStringList& arguments)
 {
     QCommandLineParser parser;
     addOptions(parser);
-    if (!parser.parse(arguments))
+    if (!parser.parse(withLogLevel(arguments)))
         return parser.errorText();
     help = parser.isSet("help");
     version = parser.isSet("version");
@@ -95,6 +128,8 @@ QString CommandLine::parse(const QStringList& arguments)
     QString error = words.isEmpty() ? checkValues(parser, api) : words;
     if (error.isEmpty())
         error = checkFiles(parser);
+    if (error.isEmpty())
+        error = checkLog(parser);
     return error.simplified(); // one line, whatever the value holds
 }
 
@@ -117,6 +152,20 @@ QString CommandLine::checkFiles(const QCommandLineParser& parser)
         if (parser.isSet(QLatin1String(option)) && file->isEmpty())
             return tr("--%1 takes the name of a file.").arg(QLatin1String(option));
     }
+    return {};
+}
+
+QString CommandLine::checkLog(const QCommandLineParser& parser)
+{
+    const QStringList levels = parser.values("log");
+    if (levels.isEmpty())
+        return {};
+    if (levels.size() > 1)
+        return tr("--log can be given once.");
+    logLevel = LoggerModel::logLevelFromString(levels.first());
+    if (logLevel == LoggerModel::noLevel)
+        return tr("--log takes one of all, debug, diag, info, warn, error, fatal, not \"%1\".")
+            .arg(levels.first());
     return {};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/MidiService.h"
+#include "logging/LoggerModel.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -36,9 +37,11 @@ public:
     bool help = false;
     bool version = false;
     MidiService::Wanted midiApi = MidiService::Wanted::any;
+    std::optional<LoggerModel::LoggerModelLogLevel> logLevel; ///< nothing without --log
 
 private:
     [[nodiscard]] QString checkWords(const QStringList& words) const;
     [[nodiscard]] QString checkFiles(const QCommandLineParser& parser);
+    [[nodiscard]] QString checkLog(const QCommandLineParser& parser);
     [[nodiscard]] QString checkValues(const QCommandLineParser& parser, const QString& api);
 };

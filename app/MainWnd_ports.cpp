@@ -4,6 +4,7 @@
 
 #include "app/MidiService.h"
 #include "app/connecter.h"
+#include "app/tell.h"
 #include "library/SettingsStore.h"
 #include "logging/categories.h"
 #include "screen/AlertWidget.h"
@@ -12,7 +13,6 @@
 #include <QThreadPool>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -226,9 +226,7 @@ void MainWnd::outPortChanged(QListWidgetItem* item)
 
 void MainWnd::midiServiceStopped()
 {
-    std::fprintf(stderr, "sorvane: %s\n",
-                 qUtf8Printable(tr("the MIDI service has stopped; its ports are closed. Start it again and "
-                                   "select the ports anew.")));
+    tell(tr("the MIDI service has stopped; its ports are closed. Start it again and select the ports anew."));
     giveUp(inPorts);
     giveUp(outPorts);
     midiOutOpen = checkActiveMidiOut();

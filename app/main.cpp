@@ -2,9 +2,12 @@
 #include "app/EndSignals.h"
 #include "app/MainWnd.h"
 #include "app/start.h"
+#include "app/tell.h"
 #include "app/vendor.h"
 #include "app/version.h"
+#include "logging/QtMessages.h"
 #include "logging/categories.h"
+#include "logging/log_file.h"
 
 #include <cstdio>
 
@@ -15,7 +18,7 @@ constexpr int notWritten = 1;
 
 int fail(const QString& line)
 {
-    std::fprintf(stderr, "sorvane: %s\n", qUtf8Printable(line));
+    tell(line);
     return badUsage;
 }
 
@@ -60,7 +63,7 @@ int runPrinting(const CommandLine& wanted, int argc, char** argv)
 bool report(const QString& lines)
 {
     for (const QString& line : lines.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
-        std::fprintf(stderr, "sorvane: %s\n", qUtf8Printable(line));
+        tell(line);
     return lines.isEmpty();
 }
 
@@ -84,6 +87,11 @@ int runStage(CommandLine& wanted, int argc, char** argv)
     // no.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     nameProgram();
+    std::optional<QtMessages> messages;
+    if (wanted.logLevel) {
+        initializeLogFile(*wanted.logLevel);
+        messages.emplace();
+    }
     midiService().choose(wanted.midiApi);
     QString error = start::openFiles(wanted);
     if (error.isEmpty())
@@ -116,7 +124,7 @@ int main(int argc, char** argv)
     if (!error.isEmpty())
         return fail(error);
     // A line for each note costs more than the note. QT_LOGGING_RULES has the last word.
-    if (!wanted.debug)
+    if (!wanted.debug && wanted.logLevel.value_or(LoggerModel::fatal) > LoggerModel::debug)
         QLoggingCategory::setFilterRules(QStringLiteral("sorvane.*.debug=false"));
     if (wanted.help || wanted.version || wanted.listPorts)
         return runPrinting(wanted, argc, argv);

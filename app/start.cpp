@@ -1,6 +1,7 @@
 #include "app/start.h"
 
 #include "app/MainWnd.h"
+#include "app/tell.h"
 #include "keys/PowerItem.h"
 #include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
@@ -11,16 +12,16 @@
 namespace start {
 namespace {
 
-void print(std::FILE* stream, const QString& line)
+void print(const QString& line)
 {
-    std::fprintf(stream, "%s\n", qUtf8Printable(line));
+    std::printf("%s\n", qUtf8Printable(line));
 }
 
 void printPorts(const QString& title, const QStringList& names)
 {
-    print(stdout, title);
+    print(title);
     for (const QString& name : names)
-        print(stdout, QStringLiteral("  ") + name);
+        print(QStringLiteral("  ") + name);
 }
 
 using Store = void (*)(const QString&, bool);
@@ -50,7 +51,7 @@ void closePorts(const QList<Port*>& ports)
 int listPorts()
 {
     MidiService& service = midiService();
-    print(stdout, QCoreApplication::translate("start", "MIDI back end: %1").arg(service.backEndName()));
+    print(QCoreApplication::translate("start", "MIDI back end: %1").arg(service.backEndName()));
     if (!service.isAvailable()) {
         reportMissingService();
         return 1;
@@ -92,7 +93,7 @@ void setSelectors(const CommandLine& wanted, MainWnd& window)
 void reportMissingService()
 {
     if (!midiService().isAvailable())
-        print(stderr, QStringLiteral("sorvane: ") + MidiService::missingText());
+        tell(MidiService::missingText());
 }
 
 void stopMidiInput(MainWnd& window)

@@ -1,0 +1,49 @@
+#include "logging/log_file.h"
+
+#include "logging/LoggerFile.h"
+#include "logging/LoggerStream.h"
+#include "logging/categories.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QStandardPaths>
+
+namespace {
+
+constexpr unsigned fileSizeKb = 512;
+constexpr unsigned backupFileCount = 5;
+
+QString logFolder()
+{
+    QString path = QStandardPaths::standardLocations(QStandardPaths::DataLocation).value(0);
+    if (!path.endsWith(QLatin1Char('/')))
+        path += QLatin1Char('/');
+    return path;
+}
+
+void logStart()
+{
+    const QString line(86, QLatin1Char('-'));
+    LoggerModel::getInstance()->log(LoggerModel::info, 0)
+        << line << '\n'
+        << "Sorvane app started : " << QDateTime::currentDateTime().toString(QStringLiteral("ddMMMMyyyy"))
+        << '\n'
+        << line;
+}
+
+} // namespace
+
+void initializeLogFile(LoggerModel::LoggerModelLogLevel level)
+{
+    const QString path = logFolder();
+    qCDebug(lcLogging) << "Log file path " << path;
+    QDir().mkpath(path);
+    const QString name = QStringLiteral("%1.log").arg(QCoreApplication::applicationName());
+    auto file = std::make_unique<LoggerFile>(QStringLiteral("%1%2").arg(path, name), level, fileSizeKb,
+                                             backupFileCount, true);
+    if (!file->mfIsValid())
+        qCWarning(lcLogging).noquote() << "no log file can be written:" << file->mfGetLogFileName();
+    LoggerModel::getInstance()->registerObserver(file.release()); // the model's, at the exit
+    logStart();
+}
