@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMutexLocker>
 #include <QTextStream>
 #include <QTime>
@@ -30,7 +31,7 @@ QString withTimeOfDay(QString fileName)
     const QString ending = QStringLiteral(".log");
     if (fileName.endsWith(ending))
         fileName.chop(ending.size());
-    return fileName + QTime::currentTime().toString(QStringLiteral("hh_mm_ss")) + ending;
+    return fileName + QLocale::c().toString(QTime::currentTime(), QStringLiteral("hh_mm_ss")) + ending;
 }
 
 } // namespace
@@ -120,7 +121,8 @@ void LoggerFile::writeLine(const LoggerItem& item, unsigned pid)
             *stream << "PID " << pid << " : ";
         else
             *stream << "\t: ";
-        *stream << item.time.toString(QStringLiteral("hh:mm:ss.zzz")) << '\t';
+        // In the digits that tools sort and search by, whatever the user's language writes.
+        *stream << QLocale::c().toString(item.time, QStringLiteral("hh:mm:ss.zzz")) << '\t';
     }
     *stream << item.text << '\n';
     stream->flush();

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QLocale>
 #include <QStandardPaths>
 
 namespace {
@@ -27,8 +28,8 @@ void logStart()
     const QString line(86, QLatin1Char('-'));
     LoggerModel::getInstance()->log(LoggerModel::info, 0)
         << line << '\n'
-        << "Sorvane app started : " << QDateTime::currentDateTime().toString(QStringLiteral("ddMMMMyyyy"))
-        << '\n'
+        << "Sorvane app started : "
+        << QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("ddMMMMyyyy")) << '\n'
         << line;
 }
 
