@@ -2,6 +2,9 @@
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
+# Without this ccache keeps nothing that was built with a precompiled header.
+export CCACHE_SLOPPINESS=pch_defines,time_macros
+
 # build_preset PRESET [CMAKE_OPTION...]
 build_preset() {
     local preset=$1
