@@ -46,7 +46,7 @@ public:
     /// In bytes; 0 for any size.
     void mpSetFileSize(unsigned bytes);
     [[nodiscard]] qint64 mfGetFileSize() const;
-    /// Kept: 0 leaves one backup, as 1 does. Each costs a copy at a rotation.
+    /// At most 1000 are kept. Kept: 0 leaves one backup, as 1 does.
     void mpSetBackupFileCount(unsigned count);
     [[nodiscard]] unsigned mfGetBackupFileCount() const;
 

@@ -6,14 +6,11 @@
 #include <QMutexLocker>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace {
 
-void replaceByCopy(const QString& target, const QString& source)
-{
-    if (QFile::exists(target))
-        QFile::remove(target);
-    QFile::copy(source, target);
-}
+constexpr unsigned mostBackups = 1000; // looked for at each rotation
 
 } // namespace
 
@@ -36,8 +33,11 @@ void LoggerFile::renew()
 
 void LoggerFile::shiftBackups() const
 {
-    for (unsigned number = backupFileCount; number > 1; --number)
-        replaceByCopy(backupName(number), backupName(number - 1));
+    for (unsigned number = std::min(backupFileCount, mostBackups); number > 1; --number) {
+        QFile::remove(backupName(number));
+        // Leaves what a copy would, since the lower one goes next, and does not wait for the disk.
+        QFile::rename(backupName(number - 1), backupName(number));
+    }
 }
 
 void LoggerFile::copyToFirstBackup()
@@ -46,7 +46,8 @@ void LoggerFile::copyToFirstBackup()
     *stream << "------------------------------------------------" << '\n'
             << "Maximum file size reached (" << fileSize / 1024 << " kB)." << '\n';
     stream->flush();
-    replaceByCopy(backupName(1), fileName);
+    QFile::remove(backupName(1));
+    QFile::copy(fileName, backupName(1));
 }
 
 QString LoggerFile::backupName(unsigned number) const
