@@ -31,8 +31,8 @@ QList<QCommandLineOption> options()
         {"export", tr("Write the state into this database file at the end."), "FILE"},
         {"session", tr("Go on where this file left off, if it exists, and write it at the end."), "FILE"},
         {"log",
-         tr("Write a log file, of entries of this level and graver ones: all, debug, diag, info, warn, error "
-            "or fatal. --log alone means --log=error."),
+         tr("Write a log file, of entries of this level and graver ones, as in --log=warn: all, debug, diag, "
+            "info, warn, error or fatal. --log alone means --log=error."),
          "LEVEL"},
         {"debug", tr("Let the program's debug lines through.")},
     };
@@ -136,7 +136,10 @@ QString CommandLine::parse(const QStringList& arguments)
 QString CommandLine::checkWords(const QStringList& words) const
 {
     for (const QString& word : words)
-        if (word != QLatin1String("qv_simple_logging"))
+        if (LoggerModel::logLevelFromString(word) != LoggerModel::noLevel)
+            return tr("Unknown word \"%1\". The level of the log stands behind an equals sign: --log=%1.")
+                .arg(word);
+        else if (word != QLatin1String("qv_simple_logging"))
             return tr("Unknown word \"%1\".").arg(word);
     return {};
 }

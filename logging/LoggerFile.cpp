@@ -26,6 +26,21 @@ const char* levelWord(LoggerModel::LoggerModelLogLevel level)
     return isKnown ? levelWords.at(std::size_t(level)) : "Unknown\t";
 }
 
+/// Qt would warn of the others.
+bool isFileName(const QString& name)
+{
+    return !name.isEmpty() && !name.contains(QChar(QChar::Null));
+}
+
+/// In digits that tools sort and search by, whatever the user's language writes; without Qt's locales, which
+/// may be gone while the process ends.
+QString timeText(QTime time)
+{
+    if (!time.isValid())
+        return {};
+    return QString::asprintf("%02d:%02d:%02d.%03d", time.hour(), time.minute(), time.second(), time.msec());
+}
+
 QString withTimeOfDay(QString fileName)
 {
     const QString ending = QStringLiteral(".log");
@@ -41,14 +56,16 @@ LoggerFile::LoggerFile(const QString& name, LoggerModel::LoggerModelLogLevel lev
     : LoggerObserver(level), fileName(uniqueName ? withTimeOfDay(name) : name),
       fileSize(qint64(fileSizeKb) << 10), backupFileCount(backups)
 {
-    const QFileInfo parts(fileName);
-    dir = parts.path();
-    baseName = parts.completeBaseName(); // "a.b.log" and "a.c.log" must not share their backups
-    suffix = parts.suffix();
     mpCheckForSimpleLogging();
-    auto named = std::make_unique<QFile>(fileName);
-    if (!fileName.isEmpty()) // which Qt would warn of
+    auto named = std::make_unique<QFile>();
+    if (isFileName(fileName)) {
+        const QFileInfo parts(QFileInfo(fileName).absoluteFilePath()); // wherever the process goes
+        dir = parts.path();
+        baseName = parts.completeBaseName(); // "a.b.log" and "a.c.log" must not share their backups
+        suffix = parts.suffix();
+        named->setFileName(parts.filePath());
         named->open(QIODevice::Append | QIODevice::Text);
+    }
     open(std::move(named));
 }
 
@@ -84,6 +101,8 @@ void LoggerFile::open(std::unique_ptr<QIODevice> device)
     file = std::move(device);
     stream = std::make_unique<QTextStream>(file.get());
     stream->setCodec("UTF-8"); // whatever the locale of a stage machine is
+    // Closed by another thread than this one, the device would have the stream flushed here, past the mutex.
+    QObject::disconnect(file.get(), &QIODevice::aboutToClose, nullptr, nullptr);
 }
 
 void LoggerFile::mpCheckForSimpleLogging()
@@ -121,8 +140,7 @@ void LoggerFile::writeLine(const LoggerItem& item, unsigned pid)
             *stream << "PID " << pid << " : ";
         else
             *stream << "\t: ";
-        // In the digits that tools sort and search by, whatever the user's language writes.
-        *stream << QLocale::c().toString(item.time, QStringLiteral("hh:mm:ss.zzz")) << '\t';
+        *stream << timeText(item.time) << '\t';
     }
     *stream << item.text << '\n';
     stream->flush();

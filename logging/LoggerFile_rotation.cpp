@@ -28,7 +28,8 @@ void LoggerFile::renew()
     shiftBackups();
     copyToFirstBackup();
     file->close();
-    file->open(QIODevice::WriteOnly | QIODevice::Text);
+    // Another program that writes to it, or empties it, must not be written over.
+    file->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Append | QIODevice::Text);
 }
 
 void LoggerFile::shiftBackups() const
@@ -47,7 +48,7 @@ void LoggerFile::copyToFirstBackup()
             << "Maximum file size reached (" << fileSize / 1024 << " kB)." << '\n';
     stream->flush();
     QFile::remove(backupName(1));
-    QFile::copy(fileName, backupName(1));
+    QFile::copy(static_cast<const QFile&>(*file).fileName(), backupName(1));
 }
 
 QString LoggerFile::backupName(unsigned number) const

@@ -57,7 +57,7 @@ LoggerModel::LoggerModel()
 
 LoggerModel::~LoggerModel()
 {
-    removeObserver(nullptr, true);
+    removeObserver(nullptr, false); // behind who calls them
     qDeleteAll(items);
 }
 

@@ -30,7 +30,7 @@ public:
 
     /// Makes the model at the first call; it goes at the process's exit. Never null.
     [[nodiscard]] static LoggerModel* getInstance();
-    /// Deletes the model with the observers that are still registered. No other thread may use it then.
+    /// Deletes the model, not its observers. No other thread may use it then.
     static void deleteInstance();
 
     // Words: "all", "debug", "diag", "info", "warn", "error", "fatal" (LoggerModel_levels.cpp)
@@ -40,8 +40,7 @@ public:
     [[nodiscard]] static QString logLevelToString(LoggerModelLogLevel level);
 
     // Observers
-    /// Appends it unless it is there already. It stays its maker's until the process's exit, if it is not
-    /// taken off before.
+    /// Appends it unless it is there already. It stays its maker's, who takes it off before it goes.
     void registerObserver(LoggerObserver* observer);
     /// Takes off that one, or with null all of them; only those are deleted, if `destroy` is true. Behind it
     /// nobody calls them any more.

@@ -2,6 +2,8 @@
 
 #include "logging/LoggerModel.h"
 
+#include <atomic>
+
 /// Who is told of the log's entries. Threshold and masks may be changed by any thread.
 class LoggerObserver
 {
@@ -10,7 +12,8 @@ public:
     LoggerObserver(const LoggerObserver&) = delete;
     LoggerObserver& operator=(const LoggerObserver&) = delete;
 
-    /// Called for each entry with the model's locks held: it must neither log nor call the model.
+    /// Called for each entry with the model's locks held: it must neither log, nor throw, nor call the model,
+    /// nor end the process.
     virtual void mpLogEvent(LoggerItem& item) = 0;
     /// Whether the id is of one of the two filter kinds and shares a bit with that kind's mask. An id of both
     /// kinds counts as one of the first.

@@ -9,11 +9,13 @@ void LoggerObserverThread::stopThread()
 
 void LoggerObserverThread::run()
 {
+    // Terminated in the middle of a round it would leave the model locked for ever, and terminated while Qt
+    // ends it, it would take the program along: only its sleep may be cut short.
+    setTerminationEnabled(false);
     while (running) {
-        // Terminated in the middle of a round it would leave the model locked for ever.
-        setTerminationEnabled(false);
         LoggerModel::getInstance()->fireLogEntries();
         setTerminationEnabled(true);
         msleep(interval);
+        setTerminationEnabled(false);
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-/// Hands Qt's messages, and those of the program's logging categories, to the log as long as it lives, and to
-/// whoever took them before. One at a time.
+/// Hands Qt's messages, and those of the program's logging categories, to the log as long as one of these
+/// lives and the process does not exit, and always to whoever took them before.
 class QtMessages
 {
 public:

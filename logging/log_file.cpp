@@ -15,6 +15,9 @@ namespace {
 constexpr unsigned fileSizeKb = 512;
 constexpr unsigned backupFileCount = 5;
 
+// Nobody deletes it, since it writes as long as the process lives; leak checks find it here.
+[[gnu::used]] LoggerFile* programLog = nullptr;
+
 QString logFolder()
 {
     QString path = QStandardPaths::standardLocations(QStandardPaths::DataLocation).value(0);
@@ -45,6 +48,7 @@ void initializeLogFile(LoggerModel::LoggerModelLogLevel level)
                                              backupFileCount, true);
     if (!file->mfIsValid())
         qCWarning(lcLogging).noquote() << "no log file can be written:" << file->mfGetLogFileName();
-    LoggerModel::getInstance()->registerObserver(file.release()); // the model's, at the exit
+    programLog = file.release();
+    LoggerModel::getInstance()->registerObserver(programLog);
     logStart();
 }
