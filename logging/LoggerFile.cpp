@@ -6,6 +6,7 @@
 #include "logging/LoggerItem.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -30,6 +31,12 @@ const char* levelWord(LoggerModel::LoggerModelLogLevel level)
 bool isFileName(const QString& name)
 {
     return !name.isEmpty() && !name.contains(QChar(QChar::Null));
+}
+
+/// What the name means now, wherever the process goes. Not cleaned: behind a link ".." leads elsewhere.
+QString atThisPlace(const QString& name)
+{
+    return QFileInfo(name).isRelative() ? QDir::currentPath() + QLatin1Char('/') + name : name;
 }
 
 /// In digits that tools sort and search by, whatever the user's language writes; without Qt's locales, which
@@ -59,7 +66,7 @@ LoggerFile::LoggerFile(const QString& name, LoggerModel::LoggerModelLogLevel lev
     mpCheckForSimpleLogging();
     auto named = std::make_unique<QFile>();
     if (isFileName(fileName)) {
-        const QFileInfo parts(QFileInfo(fileName).absoluteFilePath()); // wherever the process goes
+        const QFileInfo parts(atThisPlace(fileName));
         dir = parts.path();
         baseName = parts.completeBaseName(); // "a.b.log" and "a.c.log" must not share their backups
         suffix = parts.suffix();

@@ -3,6 +3,7 @@
 #include "logging/LoggerFile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QMutexLocker>
 #include <QTextStream>
 
@@ -35,9 +36,11 @@ void LoggerFile::renew()
 void LoggerFile::shiftBackups() const
 {
     for (unsigned number = std::min(backupFileCount, mostBackups); number > 1; --number) {
+        const QString lower = backupName(number - 1);
         QFile::remove(backupName(number));
         // Leaves what a copy would, since the lower one goes next, and does not wait for the disk.
-        QFile::rename(backupName(number - 1), backupName(number));
+        if (QFileInfo(lower).isFile())
+            QFile::rename(lower, backupName(number));
     }
 }
 
