@@ -18,6 +18,13 @@ private slots:
     void everyTonicNameIsKnown();
     void environmentNamesTheBackEndUnlessTheOptionDoes();
     void simpleLoggingWordIsAccepted();
+    void logAloneIsOfErrors_data();
+    void logAloneIsOfErrors();
+    void logTakesEachLevel_data();
+    void logTakesEachLevel();
+    void logBehindAnOptionIsThatOnesValue();
+    void badLogIsOneLineThatNamesIt_data();
+    void badLogIsOneLineThatNamesIt();
     void portIsNamedExactlyOrByAUniquePart();
     void exactNameWinsOverLongerOnes();
     void unknownOrAmbiguousPortIsOneLine();
@@ -39,6 +46,7 @@ void TestCommandLine::nothingAskedForIsNothingSet()
     QVERIFY(!line.power.has_value());
     QVERIFY(line.tonic.isEmpty() && line.scale.isEmpty() && line.inPorts.isEmpty() &&
             line.outPorts.isEmpty());
+    QVERIFY(!line.logLevel.has_value());
     QVERIFY(!line.headless && !line.debug && !line.noVirtual && !line.listPorts && !line.help &&
             !line.version);
     QVERIFY(line.midiApi == MidiService::Wanted::any);
@@ -113,6 +121,105 @@ void TestCommandLine::simpleLoggingWordIsAccepted()
 {
     CommandLine line;
     QCOMPARE(parse(line, {"qv_simple_logging"}), QString());
+}
+
+void TestCommandLine::logAloneIsOfErrors_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("alone") << QStringList{"--log"};
+    QTest::newRow("before an option") << QStringList{"--log", "--debug"};
+    QTest::newRow("before an option with a value") << QStringList{"--log", "--power", "on"};
+    QTest::newRow("behind a value") << QStringList{"--power", "on", "--log"};
+    QTest::newRow("behind a value of its own argument") << QStringList{"--power=on", "--log"};
+    QTest::newRow("behind an option without a value") << QStringList{"--no-virtual", "--log", "--headless"};
+    QTest::newRow("before the word") << QStringList{"--log", "qv_simple_logging"};
+    QTest::newRow("behind the word") << QStringList{"qv_simple_logging", "--log"};
+    QTest::newRow("behind a port named --") << QStringList{"--in", "--", "--log"};
+    QTest::newRow("behind a port named --log") << QStringList{"--in", "--log", "--log"};
+    QTest::newRow("before the end of the options") << QStringList{"--log", "--", "qv_simple_logging"};
+}
+
+void TestCommandLine::logAloneIsOfErrors()
+{
+    QFETCH(QStringList, arguments);
+    CommandLine line;
+    QCOMPARE(parse(line, arguments), QString());
+    QVERIFY(line.logLevel.has_value());
+    QCOMPARE(int(*line.logLevel), 5);
+    QCOMPARE(line.debug, arguments.contains("--debug"));
+    QCOMPARE(line.power.has_value(), arguments.contains("on") || arguments.contains("--power=on"));
+}
+
+void TestCommandLine::logTakesEachLevel_data()
+{
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<int>("level");
+    int level = 0;
+    for (const char* word : {"all", "debug", "diag", "info", "warn", "error", "fatal"})
+        QTest::addRow("%s", word) << QString::fromLatin1(word) << level++;
+}
+
+void TestCommandLine::logTakesEachLevel()
+{
+    QFETCH(QString, word);
+    QFETCH(int, level);
+    for (const QStringList& more : {QStringList(), QStringList{"--debug"}, QStringList{"--in", "--log"}}) {
+        CommandLine line;
+        QCOMPARE(parse(line, more + QStringList("--log=" + word)), QString());
+        QVERIFY(line.logLevel.has_value());
+        QCOMPARE(int(*line.logLevel), level);
+        QCOMPARE(line.debug, more.contains("--debug")); // whose lines the level lets through is not said here
+    }
+}
+
+void TestCommandLine::logBehindAnOptionIsThatOnesValue()
+{
+    CommandLine line;
+    QCOMPARE(parse(line, {"--in", "--log", "--out", "--log", "--import", "--log", "--export", "--log",
+                          "--session", "--log"}),
+             QString());
+    QCOMPARE(line.inPorts, QStringList("--log"));
+    QCOMPARE(line.outPorts, QStringList("--log"));
+    QCOMPARE(QStringList({line.importFile, line.exportFile, line.sessionFile}),
+             QStringList({"--log", "--log", "--log"}));
+    QVERIFY(!line.logLevel.has_value());
+    for (const char* option : {"--power", "--tonic", "--scale", "--midi-api"}) {
+        const QString error = parse(line, {option, "--log"});
+        QVERIFY2(error.startsWith(option) && error.contains("\"--log\""), qPrintable(error));
+    }
+    CommandLine named; // the program's own name is no option
+    QCOMPARE(named.parse({"--log"}), QString());
+    QVERIFY(!named.logLevel.has_value());
+    QCOMPARE(named.parse({"--in", "--log"}), QString());
+    QVERIFY(named.logLevel.has_value());
+}
+
+void TestCommandLine::badLogIsOneLineThatNamesIt_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("named");
+    for (const char* word : {"loud", "Error", "ERROR", "errors", "err", " error", "error ", "5", "-1",
+                             "unknown", "info,warn", "--log"})
+        QTest::addRow("%s", word) << QStringList("--log=" + QString(word))
+                                  << QString('"' + QString(word) + '"');
+    QTest::newRow("line break") << QStringList{"--log=error\nsorvane: well"} << "\"error sorvane: well\"";
+    QTest::newRow("empty") << QStringList{"--log="} << "\"\"";
+    QTest::newRow("twice") << QStringList{"--log", "--log"} << "--log can be given once";
+    QTest::newRow("twice the same") << QStringList{"--log=info", "--log=info"} << "--log can be given once";
+    QTest::newRow("two levels") << QStringList{"--log", "--log=info"} << "--log can be given once";
+    QTest::newRow("level apart") << QStringList{"--log", "debug"} << "\"debug\"";
+    QTest::newRow("behind the end of the options") << QStringList{"--", "--log"} << "\"--log\"";
+    QTest::newRow("longer word") << QStringList{"--logs"} << "logs";
+}
+
+void TestCommandLine::badLogIsOneLineThatNamesIt()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, named);
+    CommandLine line;
+    const QString error = parse(line, arguments);
+    QVERIFY2(error.contains(named), qPrintable(error));
+    QCOMPARE(error, error.simplified());
 }
 
 void TestCommandLine::portIsNamedExactlyOrByAUniquePart()

@@ -56,6 +56,10 @@ both() { find "$@" -name '*.cpp' -o -name '*.h'; }
     upward keys headers screen app
     upward headers screen app
     upward screen app
+    rule "the log knows nothing of the program, and of Qt the core:" "$(
+        grep -nE '#include ("|<Qt[A-Za-z]+/)' $(both logging) | grep -vE '#include ("logging/|<QtCore/)'
+        grep -noE 'Qt5::[A-Za-z]+|sorvane_(core|[a-z]*support)' logging/CMakeLists.txt | grep -v ':Qt5::Core$'
+    )"
     rule "pictures are decoded in keys/pictures.cpp only:" "$(
         grep -nE 'QPixmap\(QStringLiteral|QPixmap\(":|\.load\(":' $(both $rooms)
     )"
