@@ -3,15 +3,11 @@
 #include "LoggerProbe.h"
 #include "TrafficObserver.h"
 #include "logging/LoggerFile.h"
+#include "the_model.h"
 
 #include <thread>
 
 namespace {
-
-LoggerModel* model()
-{
-    return LoggerModel::getInstance();
-}
 
 void expect(bool holds)
 {

@@ -1,5 +1,7 @@
 #include "LogFixture.h"
 
+#include "logging/LoggerFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QMutex>
@@ -31,6 +33,15 @@ void collect(QtMsgType type, const QMessageLogContext& context, const QString& t
 
 namespace log_fixture {
 
+const QString everyKindOfText =
+    QStringLiteral("tab\there\nsecond line \u00e4\u00f6\u00fc\u00df \u20ac \U0001F3B9");
+
+QByteArray wordOf(int level)
+{
+    constexpr std::array<const char*, 7> words = {"All", "Debug", "Diag", "Info", "Warn", "Error", "Fatal"};
+    return level >= 0 && level < int(words.size()) ? words.at(std::size_t(level)) : "Unknown";
+}
+
 LoggerItem entry(const QString& text, LoggerModel::LoggerModelLogLevel level)
 {
     constexpr unsigned long long ofNoKind = 1;
@@ -40,6 +51,19 @@ LoggerItem entry(const QString& text, LoggerModel::LoggerModelLogLevel level)
 QByteArray errorLine(const QString& text)
 {
     return "Error\t\t: 14:03:59.007\t" + text.toUtf8() + '\n';
+}
+
+std::unique_ptr<LoggerFile> openedLog(const QString& path, unsigned bytes, unsigned backups)
+{
+    auto log = std::make_unique<LoggerFile>(path, LoggerModel::error, 0, backups, false);
+    log->mpSetFileSize(bytes);
+    return log;
+}
+
+void write(LoggerFile& log, const QString& text)
+{
+    LoggerItem item = entry(text);
+    log.mpLogEvent(item);
 }
 
 QByteArray contentOf(const QString& path)

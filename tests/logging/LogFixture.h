@@ -6,17 +6,33 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <functional>
 #include <initializer_list>
+#include <memory>
+
+class LoggerFile;
 
 /// What the tests of the log's files share.
 namespace log_fixture {
+
+/// Every level, and some that are none.
+inline constexpr std::array<int, 10> levels = {-1, 0, 1, 2, 3, 4, 5, 6, 7, 99};
+/// The word in the line of an entry of that level.
+[[nodiscard]] QByteArray wordOf(int level);
+/// Tab, line break, letters of two, three and four bytes.
+extern const QString everyKindOfText;
 
 /// An entry of no thread, at 14:03:59.007.
 [[nodiscard]] LoggerItem entry(const QString& text,
                                LoggerModel::LoggerModelLogLevel level = LoggerModel::error);
 /// The line that an entry of level error gives.
 [[nodiscard]] QByteArray errorLine(const QString& text);
+
+/// A log with a limit in bytes.
+[[nodiscard]] std::unique_ptr<LoggerFile> openedLog(const QString& path, unsigned bytes, unsigned backups);
+/// Gives it an entry of level error.
+void write(LoggerFile& log, const QString& text);
 
 [[nodiscard]] QByteArray contentOf(const QString& path);
 /// False if not all of it could be written.

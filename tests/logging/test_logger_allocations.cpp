@@ -3,6 +3,7 @@
 #include "AllocationCount.h"
 #include "LoggerProbe.h"
 #include "logging/LoggerObserver.h"
+#include "the_model.h"
 
 #include <QtTest>
 
@@ -15,11 +16,6 @@ constexpr unsigned length = 100;
 constexpr int many = 100'000;
 
 const QString text = QStringLiteral("a text that all entries share");
-
-LoggerModel* model()
-{
-    return LoggerModel::getInstance();
-}
 
 void log(int times)
 {

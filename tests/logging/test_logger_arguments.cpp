@@ -18,17 +18,7 @@ namespace {
 
 using Level = LoggerModel::LoggerModelLogLevel;
 
-constexpr std::array<const char*, 7> words = {"All", "Debug", "Diag", "Info", "Warn", "Error", "Fatal"};
-constexpr std::array<int, 10> levels = {-1, 0, 1, 2, 3, 4, 5, 6, 7, 99};
-const QString everyKindOfText =
-    QStringLiteral("tab\there\nsecond line \u00e4\u00f6\u00fc\u00df \u20ac \U0001F3B9");
-
 const char* const childMark = "entries";
-
-QByteArray wordOf(int level)
-{
-    return level >= 0 && level < int(words.size()) ? words.at(std::size_t(level)) : "Unknown";
-}
 
 } // namespace
 

@@ -37,12 +37,6 @@ std::size_t allocatedBytes()
 #endif
 }
 
-void write(LoggerFile& log, const QString& text)
-{
-    LoggerItem item = entry(text);
-    log.mpLogEvent(item);
-}
-
 /// Writes entries of these numbers; how much memory that took for good.
 std::size_t writeNumbers(LoggerFile& log, int first, int behindLast)
 {

@@ -30,9 +30,6 @@ private slots:
 
 private:
     QString path(const QString& name) const { return folder->filePath(name); }
-    /// A log of this folder with a limit in bytes.
-    std::unique_ptr<LoggerFile> opened(const QString& name, unsigned bytes, unsigned backups) const;
-    static void write(LoggerFile& log, const QString& text);
 
     std::unique_ptr<QTemporaryDir> folder;
 };
@@ -41,20 +38,6 @@ void TestLoggerLimit::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     QVERIFY(folder->isValid());
-}
-
-std::unique_ptr<LoggerFile> TestLoggerLimit::opened(const QString& name, unsigned bytes,
-                                                    unsigned backups) const
-{
-    auto log = std::make_unique<LoggerFile>(path(name), LoggerModel::error, 0, backups, false);
-    log->mpSetFileSize(bytes);
-    return log;
-}
-
-void TestLoggerLimit::write(LoggerFile& log, const QString& text)
-{
-    LoggerItem item = entry(text);
-    log.mpLogEvent(item);
 }
 
 void TestLoggerLimit::sizeAtTheLimitStays_data()
@@ -71,7 +54,7 @@ void TestLoggerLimit::sizeAtTheLimitStays()
     QFETCH(int, beyond);
     QFETCH(bool, isRotated);
     const QByteArray first = errorLine("first");
-    const auto log = opened("a.log", unsigned(first.size() - beyond), 2);
+    const auto log = openedLog(path("a.log"), unsigned(first.size() - beyond), 2);
     write(*log, "first");
     QCOMPARE(namesIn(path({})), QStringList("a.log")); // the size counts before an entry, not behind it
     write(*log, "next");
@@ -104,7 +87,7 @@ void TestLoggerLimit::sizeOfZeroNeverRotates()
 
 void TestLoggerLimit::firstLineAfterARotationGoesToAnEmptyFile()
 {
-    const auto log = opened("a.log", 1, 1);
+    const auto log = openedLog(path("a.log"), 1, 1);
     write(*log, "a");
     log->mpRenewLogFile();
     QVERIFY(QFile::exists(path("a.log")));
@@ -129,7 +112,7 @@ void TestLoggerLimit::limitsLineTellsWholeKilobytes()
 {
     QFETCH(unsigned, bytes);
     QFETCH(QByteArray, kilobytes);
-    const auto log = opened("a.log", bytes, 1);
+    const auto log = openedLog(path("a.log"), bytes, 1);
     const QString text(int(bytes), 'x');
     write(*log, text);
     log->mpRenewLogFile();
@@ -152,7 +135,7 @@ void TestLoggerLimit::entryThatIsNotWrittenRotatesNothing()
     QFETCH(quint64, id);
     QFETCH(int, level);
     QVERIFY(put(path("a.log"), "too long"));
-    const auto log = opened("a.log", 1, 2);
+    const auto log = openedLog(path("a.log"), 1, 2);
     log->mpSetFilter(id);
     LoggerItem item = entry("x", LoggerModel::LoggerModelLogLevel(level));
     item.id = id;
@@ -164,7 +147,7 @@ void TestLoggerLimit::entryThatIsNotWrittenRotatesNothing()
 void TestLoggerLimit::renewingByHandRotatesOnlyABigFile()
 {
     const QByteArray line = errorLine("x");
-    const auto log = opened("a.log", unsigned(line.size()), 2);
+    const auto log = openedLog(path("a.log"), unsigned(line.size()), 2);
     write(*log, "x");
     log->mpRenewLogFile();
     QCOMPARE(namesIn(path({})), QStringList("a.log"));

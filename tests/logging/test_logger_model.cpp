@@ -2,6 +2,7 @@
 
 #include "LoggerProbe.h"
 #include "RecordingObserver.h"
+#include "the_model.h"
 
 #include <QtTest>
 
@@ -12,17 +13,6 @@ namespace {
 
 constexpr unsigned defaultLength = 512;
 constexpr unsigned long long anId = 7;
-
-LoggerModel* model()
-{
-    return LoggerModel::getInstance();
-}
-
-void logTexts(const QStringList& texts)
-{
-    for (const QString& text : texts)
-        model()->log(LoggerModel::info, text, anId);
-}
 
 void logNumbers(int count)
 {

@@ -2,6 +2,7 @@
 
 #include "LoggerProbe.h"
 #include "RecordingObserver.h"
+#include "the_model.h"
 
 #include <QtTest>
 
@@ -9,17 +10,6 @@
 #include <memory>
 
 namespace {
-
-LoggerModel* model()
-{
-    return LoggerModel::getInstance();
-}
-
-void logTexts(const QStringList& texts)
-{
-    for (const QString& text : texts)
-        model()->log(LoggerModel::info, text, 1);
-}
 
 /// Writes its name down when it is called, and when it dies.
 struct NamedObserver : LoggerObserver

@@ -35,9 +35,6 @@ private slots:
 
 private:
     QString path(const QString& name) const { return folder->filePath(name); }
-    /// A log of this folder with a limit in bytes.
-    std::unique_ptr<LoggerFile> opened(const QString& name, unsigned bytes, unsigned backups) const;
-    static void write(LoggerFile& log, const QString& text);
 
     std::unique_ptr<QTemporaryDir> folder;
 };
@@ -46,20 +43,6 @@ void TestLoggerOddFolder::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     QVERIFY(folder->isValid());
-}
-
-std::unique_ptr<LoggerFile> TestLoggerOddFolder::opened(const QString& name, unsigned bytes,
-                                                        unsigned backups) const
-{
-    auto log = std::make_unique<LoggerFile>(path(name), LoggerModel::error, 0, backups, false);
-    log->mpSetFileSize(bytes);
-    return log;
-}
-
-void TestLoggerOddFolder::write(LoggerFile& log, const QString& text)
-{
-    LoggerItem item = entry(text);
-    log.mpLogEvent(item);
 }
 
 void TestLoggerOddFolder::backupThatCannotBeReplacedIsPassedOver_data()
@@ -74,7 +57,7 @@ void TestLoggerOddFolder::backupThatCannotBeReplacedIsPassedOver()
     QFETCH(QString, folderInPlace);
     QVERIFY(QDir(path({})).mkdir(folderInPlace) && put(path(folderInPlace + "/inside"), "kept"));
     const Messages messages;
-    const auto log = opened("a.log", 1, 3);
+    const auto log = openedLog(path("a.log"), 1, 3);
     for (int line = 1; line <= 5; ++line) {
         write(*log, QString::number(line));
         QCOMPARE(contentOf(path("a.log")), errorLine(QString::number(line)));
@@ -92,7 +75,7 @@ void TestLoggerOddFolder::backupThatCannotBeReplacedIsPassedOver()
 void TestLoggerOddFolder::linkInPlaceOfABackupGivesItsContent()
 {
     QVERIFY(put(path("else"), "kept") && QFile::link("else", path("a_1.log")));
-    const auto log = opened("a.log", 1, 3);
+    const auto log = openedLog(path("a.log"), 1, 3);
     write(*log, "x");
     write(*log, "y");
     QCOMPARE(contentOf(path("else")), QByteArray("kept"));
@@ -105,7 +88,7 @@ void TestLoggerOddFolder::pipeInPlaceOfABackupIsNotWaitedFor()
 {
     QCOMPARE(mkfifo(QFile::encodeName(path("a_1.log")).constData(), 0600), 0);
     const int status = inAnotherProcess([this] {
-        const auto log = opened("a.log", 1, 3);
+        const auto log = openedLog(path("a.log"), 1, 3);
         for (const char* text : {"a", "b", "c", "d"})
             write(*log, text);
         return 0;
@@ -118,7 +101,7 @@ void TestLoggerOddFolder::pipeInPlaceOfABackupIsNotWaitedFor()
 void TestLoggerOddFolder::countOfAllBackupsThereCanBeIsNotWaitedFor()
 {
     const int status = inAnotherProcess([this] {
-        const auto log = opened("a.log", 1, 4294967295U);
+        const auto log = openedLog(path("a.log"), 1, 4294967295U);
         for (const char* text : {"a", "b", "c"})
             write(*log, text);
         return 0;
@@ -131,7 +114,7 @@ void TestLoggerOddFolder::countOfAllBackupsThereCanBeIsNotWaitedFor()
 void TestLoggerOddFolder::fileThatIsRemovedMeanwhileComesBack()
 {
     const Messages messages;
-    const auto log = opened("a.log", 60, 2);
+    const auto log = openedLog(path("a.log"), 60, 2);
     write(*log, "lost");
     QVERIFY(QFile::remove(path("a.log")));
     write(*log, QString(60, 'x')); // goes to the file that has no name any more
@@ -152,7 +135,7 @@ void TestLoggerOddFolder::fileThatIsShortenedMeanwhileCountsAsItIs_data()
 void TestLoggerOddFolder::fileThatIsShortenedMeanwhileCountsAsItIs()
 {
     QFETCH(bool, isRotatedBefore);
-    const auto log = opened("a.log", 60, 2);
+    const auto log = openedLog(path("a.log"), 60, 2);
     if (isRotatedBefore)
         write(*log, QString(60, 'x'));
     write(*log, QString(60, 'y'));
@@ -171,7 +154,7 @@ void TestLoggerOddFolder::whatAnotherProgramAppendsStays_data()
 void TestLoggerOddFolder::whatAnotherProgramAppendsStays()
 {
     QFETCH(bool, isRotatedBefore);
-    const auto log = opened("a.log", 100, 2);
+    const auto log = openedLog(path("a.log"), 100, 2);
     if (isRotatedBefore)
         write(*log, QString(100, 'x'));
     write(*log, "a");
@@ -185,7 +168,7 @@ void TestLoggerOddFolder::linkStaysAndItsFileIsBegunAnew()
 {
     QVERIFY(QDir(path({})).mkdir("else") && put(path("else/file"), "too long\n"));
     QVERIFY(QFile::link("else/file", path("a.log")));
-    const auto log = opened("a.log", 1, 2);
+    const auto log = openedLog(path("a.log"), 1, 2);
     write(*log, "x");
     QVERIFY(QFileInfo(path("a.log")).isSymLink());
     QCOMPARE(contentOf(path("else/file")), errorLine("x"));

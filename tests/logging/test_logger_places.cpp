@@ -14,16 +14,6 @@
 
 using namespace log_fixture;
 
-namespace {
-
-void write(LoggerFile& log, const QString& text)
-{
-    LoggerItem item = entry(text);
-    log.mpLogEvent(item);
-}
-
-} // namespace
-
 class TestLoggerPlaces : public QObject
 {
     Q_OBJECT

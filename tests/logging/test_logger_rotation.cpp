@@ -79,9 +79,6 @@ private slots:
 
 private:
     QString path(const QString& name) const { return folder->filePath(name); }
-    /// A log of this folder with a limit in bytes.
-    std::unique_ptr<LoggerFile> opened(const QString& name, unsigned bytes, unsigned backups) const;
-    static void write(LoggerFile& log, const QString& text);
 
     std::unique_ptr<QTemporaryDir> folder;
 };
@@ -90,20 +87,6 @@ void TestLoggerRotation::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     QVERIFY(folder->isValid());
-}
-
-std::unique_ptr<LoggerFile> TestLoggerRotation::opened(const QString& name, unsigned bytes,
-                                                       unsigned backups) const
-{
-    auto log = std::make_unique<LoggerFile>(path(name), LoggerModel::error, 0, backups, false);
-    log->mpSetFileSize(bytes);
-    return log;
-}
-
-void TestLoggerRotation::write(LoggerFile& log, const QString& text)
-{
-    LoggerItem item = entry(text);
-    log.mpLogEvent(item);
 }
 
 void TestLoggerRotation::everyFileHoldsWhatTheRuleSays_data()
@@ -136,7 +119,7 @@ void TestLoggerRotation::everyFileHoldsWhatTheRuleSays()
     QFETCH(QString, backup);
     QFETCH(int, backups);
     QVERIFY(QDir(path({})).mkpath(subfolder));
-    const auto log = opened(subfolder + '/' + name, 100, unsigned(backups));
+    const auto log = openedLog(path(subfolder + '/' + name), 100, unsigned(backups));
     Model model = {name, backup, 100, backups, {{name, {}}}};
     for (int line = 0; line < 20; ++line) { // rotates eight times, more than there are backups
         const QString text = QStringLiteral("line %1 %2").arg(line).arg(QString(line % 7 * 5, 'x'));
@@ -150,7 +133,7 @@ void TestLoggerRotation::everyFileHoldsWhatTheRuleSays()
 void TestLoggerRotation::existingFileRotatesAtTheFirstEntry()
 {
     QVERIFY(put(path("a.log"), "too long\n"));
-    const auto log = opened("a.log", 5, 1);
+    const auto log = openedLog(path("a.log"), 5, 1);
     QCOMPARE(namesIn(path({})), QStringList("a.log"));
     write(*log, "x");
     QCOMPARE(contentOf(path("a.log")), errorLine("x"));
@@ -166,7 +149,7 @@ void TestLoggerRotation::existingBackupsMoveUpAndOthersStay()
         model.folder[name] = QByteArray("this was ") + name;
     for (auto file = model.folder.cbegin(); file != model.folder.cend(); ++file)
         QVERIFY(put(path(file.key()), file.value()));
-    const auto log = opened("a.log", 1, 5);
+    const auto log = openedLog(path("a.log"), 1, 5);
     for (const char* text : {"a", "b", "c"}) {
         write(*log, text);
         model.write(errorLine(text));
@@ -177,7 +160,7 @@ void TestLoggerRotation::existingBackupsMoveUpAndOthersStay()
 void TestLoggerRotation::entriesOfSeveralThreadsAreAllThereOnce()
 {
     constexpr int threads = 4, entries = 100, mostBackups = 20; // more than it takes
-    const auto log = opened("a.log", 4000, mostBackups);
+    const auto log = openedLog(path("a.log"), 4000, mostBackups);
     std::vector<std::thread> writers;
     QList<QByteArray> expected;
     for (int thread = 0; thread < threads; ++thread) {

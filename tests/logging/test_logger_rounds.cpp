@@ -4,21 +4,11 @@
 #include "LoggerProbe.h"
 #include "RecordingObserver.h"
 #include "logging/LoggerStream.h"
+#include "the_model.h"
 
 #include <QtTest>
 
 namespace {
-
-LoggerModel* model()
-{
-    return LoggerModel::getInstance();
-}
-
-void logTexts(const QStringList& texts)
-{
-    for (const QString& text : texts)
-        model()->log(LoggerModel::info, text, 1);
-}
 
 /// Writes its name down when it is called.
 struct NamedObserver : LoggerObserver

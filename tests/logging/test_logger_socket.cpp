@@ -65,12 +65,6 @@ private:
     const int socket;
 };
 
-void write(LoggerFile& log, const QString& text)
-{
-    LoggerItem item = entry(text);
-    log.mpLogEvent(item);
-}
-
 } // namespace
 
 class TestLoggerSocket : public QObject

@@ -3,6 +3,7 @@
 #include "LoggerProbe.h"
 #include "RecordingObserver.h"
 #include "logging/LoggerStream.h"
+#include "the_model.h"
 
 #include <QtTest>
 
@@ -10,11 +11,6 @@
 #include <thread>
 
 namespace {
-
-LoggerModel* model()
-{
-    return LoggerModel::getInstance();
-}
 
 /// The text of the entry that these values make.
 template <typename... Values>

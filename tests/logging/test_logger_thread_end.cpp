@@ -3,6 +3,7 @@
 
 #include "LoggerProbe.h"
 #include "RecordingObserver.h"
+#include "the_model.h"
 
 #include <QtTest>
 
@@ -15,17 +16,6 @@ namespace {
 constexpr auto patience = 20s;         // for what must happen
 constexpr auto briefly = 100ms;        // for what must not
 constexpr unsigned anHour = 3'600'000; // milliseconds
-
-LoggerModel* model()
-{
-    return LoggerModel::getInstance();
-}
-
-void logTexts(const QStringList& texts)
-{
-    for (const QString& text : texts)
-        model()->log(LoggerModel::info, text, 1);
-}
 
 bool ends(LoggerObserverThread& thread)
 {

@@ -5,6 +5,7 @@
 #include "LoggerProbe.h"
 #include "TrafficObserver.h"
 #include "logging/LoggerFile.h"
+#include "the_model.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -16,11 +17,6 @@ namespace {
 
 constexpr int each = 25'000;     // entries of a logger
 constexpr int eachOfFew = 5'000; // where all of them are kept
-
-LoggerModel* model()
-{
-    return LoggerModel::getInstance();
-}
 
 /// Puts the model into the mode where its own thread hands out, and starts that.
 void startThread()
