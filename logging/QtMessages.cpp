@@ -17,9 +17,10 @@ std::atomic<int> living = 0;   // of QtMessages
 std::atomic<int> underWay = 0; // messages on their way into the log
 std::atomic<bool> isExiting = false;
 std::mutex installing;
-thread_local bool isLogging = false; // a message that the log itself sets off is not for the log
-thread_local bool isPassingOn =
-    false; // a later handler may pass a message on to handOver, which passed it on
+// A message that the log itself sets off is not for the log.
+thread_local bool isLogging = false;
+// A later handler may pass a message on to handOver, which has passed it on to that handler.
+thread_local bool isPassingOn = false;
 
 LoggerModel::LoggerModelLogLevel levelOf(QtMsgType type)
 {
