@@ -4,11 +4,10 @@
 
 #include "SessionRun.h"
 #include "StagePlaces.h"
-#include "XServer.h"
+#include "on_x_server.h"
 #include "tunes.h"
 
 #include <QDir>
-#include <QGuiApplication>
 #include <QtTest>
 
 #include <algorithm>
@@ -337,13 +336,7 @@ void EndToEndFiles::questionsComeOneAtATime()
 
 int main(int argc, char** argv)
 {
-    qputenv("QTEST_FUNCTION_TIMEOUT", "120000"); // milliseconds; a test that hangs is ended
-    XServer server;
-    if (!server.start())
-        return 1;
-    QGuiApplication application(argc, argv);
-    EndToEndFiles test;
-    return QTest::qExec(&test, argc, argv);
+    return runOnXServer<EndToEndFiles>(argc, argv);
 }
 
 #include "e2e_files.moc"

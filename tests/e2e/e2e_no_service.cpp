@@ -3,9 +3,8 @@
 // where it should not.
 
 #include "ProgramUnderTest.h"
-#include "XServer.h"
+#include "on_x_server.h"
 
-#include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -125,12 +124,7 @@ void EndToEndNoService::helpAndVersionNeedNoDisplay()
 
 int main(int argc, char** argv)
 {
-    XServer server;
-    if (!server.start())
-        return 1;
-    QGuiApplication application(argc, argv);
-    EndToEndNoService test;
-    return QTest::qExec(&test, argc, argv);
+    return runOnXServer<EndToEndNoService>(argc, argv);
 }
 
 #include "e2e_no_service.moc"

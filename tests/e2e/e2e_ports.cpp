@@ -5,11 +5,10 @@
 #include "JackPlayer.h"
 #include "PipeWireDaemon.h"
 #include "ProgramUnderTest.h"
-#include "XServer.h"
 #include "answer.h"
+#include "on_x_server.h"
 
 #include <QDir>
-#include <QGuiApplication>
 #include <QImage>
 #include <QPixmap>
 #include <QScreen>
@@ -367,13 +366,7 @@ void EndToEndPorts::goneOutputIsReportedAndTriedAgain()
 
 int main(int argc, char** argv)
 {
-    qputenv("QTEST_FUNCTION_TIMEOUT", "120000"); // milliseconds; a test that hangs is ended
-    XServer server;
-    if (!server.start())
-        return 1;
-    QGuiApplication application(argc, argv);
-    EndToEndPorts test;
-    return QTest::qExec(&test, argc, argv);
+    return runOnXServer<EndToEndPorts>(argc, argv);
 }
 
 #include "e2e_ports.moc"

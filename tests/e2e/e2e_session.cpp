@@ -6,10 +6,10 @@
 #include "SessionRun.h"
 #include "StageModel.h"
 #include "StagePlaces.h"
-#include "XServer.h"
+#include "answer.h"
+#include "on_x_server.h"
 
 #include <QDir>
-#include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QtTest>
@@ -135,14 +135,7 @@ void EndToEndSession::init()
 
 bool EndToEndSession::playsAsTold(const Messages& played)
 {
-    const Messages expected = model->answerTo(played);
-    const Messages answer = run.answerTo(played);
-    if (answer != expected) {
-        const auto differ = std::mismatch(answer.begin(), answer.end(), expected.begin(), expected.end());
-        qWarning() << "played" << played << "\nand was answered" << answer
-                   << "\nwhich differs from the rule at" << differ.first - answer.begin();
-    }
-    return answer == expected;
+    return isAsTold(played, run.answerTo(played), model->answerTo(played));
 }
 
 bool EndToEndSession::recallsAsTold()
@@ -446,13 +439,7 @@ void EndToEndSession::importWinsAndExportIsTheSession()
 
 int main(int argc, char** argv)
 {
-    qputenv("QTEST_FUNCTION_TIMEOUT", "120000"); // milliseconds; a test that hangs is ended
-    XServer server;
-    if (!server.start())
-        return 1;
-    QGuiApplication application(argc, argv);
-    EndToEndSession test;
-    return QTest::qExec(&test, argc, argv);
+    return runOnXServer<EndToEndSession>(argc, argv);
 }
 
 #include "e2e_session.moc"

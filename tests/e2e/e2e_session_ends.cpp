@@ -5,11 +5,10 @@
 #include "SessionManager.h"
 #include "SessionRun.h"
 #include "StagePlaces.h"
-#include "XServer.h"
+#include "on_x_server.h"
 #include "tunes.h"
 
 #include <QDir>
-#include <QGuiApplication>
 #include <QPixmap>
 #include <QRegularExpression>
 #include <QScreen>
@@ -390,13 +389,7 @@ void EndToEndSessionEnds::desktopThatStaysLeavesTheProgramAlone()
 
 int main(int argc, char** argv)
 {
-    qputenv("QTEST_FUNCTION_TIMEOUT", "120000"); // milliseconds; a test that hangs is ended
-    XServer server;
-    if (!server.start())
-        return 1;
-    QGuiApplication application(argc, argv);
-    EndToEndSessionEnds test;
-    return QTest::qExec(&test, argc, argv);
+    return runOnXServer<EndToEndSessionEnds>(argc, argv);
 }
 
 #include "e2e_session_ends.moc"

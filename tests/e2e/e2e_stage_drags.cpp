@@ -6,9 +6,9 @@
 #include "StageModel.h"
 #include "StagePlaces.h"
 #include "StageRun.h"
-#include "XServer.h"
+#include "answer.h"
+#include "on_x_server.h"
 
-#include <QGuiApplication>
 #include <QScreen>
 #include <QtTest>
 
@@ -114,14 +114,7 @@ bool EndToEndStageDrags::start(bool power, const QStringList& more)
 
 bool EndToEndStageDrags::playsAsTold(const Messages& played)
 {
-    const Messages expected = model->answerTo(played);
-    const Messages answer = run.answerTo(played);
-    if (answer != expected) {
-        const auto differ = std::mismatch(answer.begin(), answer.end(), expected.begin(), expected.end());
-        qWarning() << "played" << played << "\nand was answered" << answer
-                   << "\nwhich differs from the rule at" << differ.first - answer.begin();
-    }
-    return answer == expected;
+    return isAsTold(played, run.answerTo(played), model->answerTo(played));
 }
 
 bool EndToEndStageDrags::playsSoon(const Messages& expected)
@@ -321,12 +314,7 @@ void EndToEndStageDrags::anchorDragMovesTheMappingWithTheHand()
 
 int main(int argc, char** argv)
 {
-    XServer server(screenSize);
-    if (!server.start())
-        return 1;
-    QGuiApplication application(argc, argv);
-    EndToEndStageDrags test;
-    return QTest::qExec(&test, argc, argv);
+    return runOnXServer<EndToEndStageDrags>(argc, argv, screenSize);
 }
 
 #include "e2e_stage_drags.moc"

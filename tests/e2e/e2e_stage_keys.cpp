@@ -6,9 +6,8 @@
 #include "StagePlaces.h"
 #include "StageRun.h"
 #include "SweepModel.h"
-#include "XServer.h"
+#include "on_x_server.h"
 
-#include <QGuiApplication>
 #include <QtTest>
 
 namespace {
@@ -292,12 +291,7 @@ void EndToEndStageKeys::noteEndsWhenAnotherWindowTakesTheFocus()
 
 int main(int argc, char** argv)
 {
-    XServer server(screenSize);
-    if (!server.start())
-        return 1;
-    QGuiApplication application(argc, argv);
-    EndToEndStageKeys test;
-    return QTest::qExec(&test, argc, argv);
+    return runOnXServer<EndToEndStageKeys>(argc, argv, screenSize);
 }
 
 #include "e2e_stage_keys.moc"

@@ -6,9 +6,8 @@
 #include "MappingRule.h"
 #include "PipeWireDaemon.h"
 #include "ProgramUnderTest.h"
-#include "XServer.h"
+#include "on_x_server.h"
 
-#include <QGuiApplication>
 #include <QtTest>
 
 namespace {
@@ -243,12 +242,7 @@ void EndToEndWindow::portThatCannotOpenIsReportedAndOpensOnceTheServiceIsBack()
 
 int main(int argc, char** argv)
 {
-    XServer server;
-    if (!server.start())
-        return 1;
-    QGuiApplication application(argc, argv);
-    EndToEndWindow test;
-    return QTest::qExec(&test, argc, argv);
+    return runOnXServer<EndToEndWindow>(argc, argv);
 }
 
 #include "e2e_window.moc"

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QtTest>
 
+#include <algorithm>
+
 /// Plays messages and an echo behind them; returns what comes back before the echo, or all of it if the echo
 /// does not come in time. `Player` has send() and a read() that gives an empty message when there is none.
 template <typename Player>
@@ -24,4 +26,16 @@ QList<QList<int>> answerBeforeEcho(Player& player, const QList<QList<int>>& mess
         },
         timeoutMs));
     return answer;
+}
+
+/// Whether the answer is the expected one; tells where they differ.
+inline bool isAsTold(const QList<QList<int>>& played, const QList<QList<int>>& answer,
+                     const QList<QList<int>>& expected)
+{
+    if (answer == expected)
+        return true;
+    const auto differ = std::mismatch(answer.begin(), answer.end(), expected.begin(), expected.end());
+    qWarning() << "played" << played << "\nand was answered" << answer << "\nwhich differs from the rule at"
+               << differ.first - answer.begin();
+    return false;
 }
