@@ -40,6 +40,21 @@ int worstDifference(const QImage& a, const QImage& b)
     return worst;
 }
 
+int luminance(const QImage& image, int x, int y)
+{
+    return qGray(image.pixel(x, y));
+}
+
+/// True if nothing is drawn in an area, in pixels.
+bool isClear(const QImage& image, const QRect& area)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            if (qAlpha(image.pixel(x, y)) != 0)
+                return false;
+    return true;
+}
+
 bool isBlankColumn(const QImage& image, int x)
 {
     for (int y = 0; y < image.height(); ++y)
@@ -59,13 +74,21 @@ private slots:
     void committedPictureIsThePaintersOwn();
     void everyResourceIsPaintedOrText();
     void keySheetsShareTheirOutline();
+    void whiteKeysAreOpaqueButForTheirNotches_data();
+    void whiteKeysAreOpaqueButForTheirNotches();
     void keySheetsDifferInColour();
     void pressedCellsDifferFromIdleOnes();
     void cellsOfBlackKeysAreOpaque();
+    void shineRunsOnFromKeyToKey();
     void digitsStandInTheirColumns_data();
     void digitsStandInTheirColumns();
     void displayStaysFlatBehindTheLabels();
+    void partsOfTheDisplayKeepClearOfTheLabels();
+    void overlaysAreMostlyClear();
+    void powerSquareShowsItsState();
     void selectorLightsLeaveTheOtherKeysFree();
+    void switchesTellTheirStatesApart();
+    void picturesStaySmall();
 };
 
 void TestPictures::committedPictureIsThePaintersOwn_data()
@@ -121,6 +144,41 @@ void TestPictures::keySheetsShareTheirOutline()
     }
 }
 
+void TestPictures::whiteKeysAreOpaqueButForTheirNotches_data()
+{
+    QTest::addColumn<int>("left");
+    QTest::addColumn<bool>("leftNotch");
+    QTest::addColumn<bool>("rightNotch");
+    QTest::newRow("full idle") << 20 << false << false; // its first column also ends a black cell
+    QTest::newRow("full pressed") << 36 << false << false;
+    QTest::newRow("D G A idle") << 53 << true << true;
+    QTest::newRow("D G A pressed") << 70 << true << true;
+    QTest::newRow("C F idle") << 87 << false << true;
+    QTest::newRow("C F pressed") << 104 << false << true;
+    QTest::newRow("B E idle") << 121 << true << false;
+    QTest::newRow("B E pressed") << 138 << true << false;
+}
+
+// A black key is 10 wide and 64 high, half of it over each white neighbour.
+void TestPictures::whiteKeysAreOpaqueButForTheirNotches()
+{
+    QFETCH(int, left);
+    QFETCH(bool, leftNotch);
+    QFETCH(bool, rightNotch);
+    constexpr int width = 17, notch = 5, notchHeight = 64, height = 99;
+    const int cells = left == 20 ? width - 1 : width;
+    for (const int scale : {1, 2}) {
+        const QString path = QStringLiteral("Keyboard/keyboardB.png");
+        const QImage sheet = committed(scale == 1 ? path : denseName(path));
+        for (int y = 0; y < height * scale; ++y)
+            for (int x = 0; x < cells * scale; ++x) {
+                const bool cut = y < notchHeight * scale && ((leftNotch && x < notch * scale) ||
+                                                             (rightNotch && x >= (width - notch) * scale));
+                QCOMPARE(qAlpha(sheet.pixel(left * scale + x, y)), cut ? 0 : 255);
+            }
+    }
+}
+
 void TestPictures::keySheetsDifferInColour()
 {
     QStringList names{"", "_IN", "_OUT", "_deactive", "_LEARN"};
@@ -152,6 +210,21 @@ void TestPictures::cellsOfBlackKeysAreOpaque()
     for (int x = 0; x < 20; ++x)
         for (int y = 0; y < 64; ++y)
             QCOMPARE(qAlpha(sheet.pixel(x, y)), 255);
+}
+
+void TestPictures::shineRunsOnFromKeyToKey()
+{
+    for (const char* path : {"INPUTblueShine.png", "OUTPUTyellowShine.png"}) {
+        const QImage shine = committed(QLatin1String(path));
+        for (int y = 0; y < shine.height(); ++y) {
+            for (int x = 1; x < shine.width(); ++x)
+                QCOMPARE(shine.pixel(x, y), shine.pixel(0, y));
+            if (y > 0)
+                QVERIFY(qAlpha(shine.pixel(0, y)) <= qAlpha(shine.pixel(0, y - 1)));
+        }
+        QVERIFY(qAlpha(shine.pixel(0, 0)) > 0);
+        QVERIFY(qAlpha(shine.pixel(0, shine.height() - 1)) <= 2); // it ends without an edge
+    }
 }
 
 void TestPictures::digitsStandInTheirColumns_data()
@@ -195,6 +268,48 @@ void TestPictures::displayStaysFlatBehindTheLabels()
     }
 }
 
+// The form's labels lie flat over the middle of the display; what else is drawn there would stop at their
+// edges.
+void TestPictures::partsOfTheDisplayKeepClearOfTheLabels()
+{
+    const QRect hiddenLayer(342 - 207, 217 - 167, 265, 7), labelBottom(343 - 207, 274 - 167, 263, 6);
+    for (const int scale : {1, 2})
+        for (const char* path : {"Background/GlareDisplaySilkscreen.png", "Background/smoke.gif"}) {
+            const QImage part =
+                committed(scale == 1 ? QString::fromLatin1(path) : denseName(QLatin1String(path)));
+            for (const QRect& label : {hiddenLayer, labelBottom})
+                QVERIFY2(isClear(part, QRect(label.topLeft() * scale, label.size() * scale)), path);
+        }
+    const QImage logo = committed("CenterScreen/Sorvane-Logo-CM.png");
+    QVERIFY(isClear(logo, QRect(0, 217 - 162, logo.width(), 7)));
+}
+
+void TestPictures::overlaysAreMostlyClear()
+{
+    for (const char* path : {"Background/BG_t_on-CM.png", "Background/BG_t_off.png"}) {
+        const QImage sheet = committed(QLatin1String(path));
+        QVERIFY2(isClear(sheet, QRect(207, 167, 532, 116)), path); // the display
+        for (int y = 0; y < sheet.height(); ++y)
+            for (int x = 0; x < sheet.width(); ++x)
+                if (y >= 60 && (y < 340 || y >= 370))
+                    QVERIFY2(qAlpha(sheet.pixel(x, y)) < 128 || y == 299, path); // all but the lit rod
+    }
+}
+
+void TestPictures::powerSquareShowsItsState()
+{
+    const QRect square(3, 3, 13, 25), lens(5, 20, 9, 5);
+    const QImage off = committed("Power/POWERBUTTONOff.png"), on = committed("Power/POWERBUTTONOn.png");
+    for (int y = lens.top(); y <= lens.bottom(); ++y)
+        for (int x = lens.left(); x <= lens.right(); ++x)
+            QVERIFY(luminance(on, x, y) > luminance(off, x, y));
+    for (const char* path : {"Power/POWERBUTTONPress.png", "Power/POWERBUTTONHover.png"}) {
+        const QImage look = committed(QLatin1String(path)); // drawn over On or Off
+        QVERIFY(qAlpha(look.pixel(square.center())) > 0);
+        QVERIFY2(isClear(look, QRect(0, square.bottom() + 1, look.width(), look.height() - 28)), path);
+    }
+}
+
 void TestPictures::selectorLightsLeaveTheOtherKeysFree()
 {
     const QImage sheet = committed("KeyboardTonic.png");
@@ -204,6 +319,31 @@ void TestPictures::selectorLightsLeaveTheOtherKeysFree()
             QCOMPARE(qAlpha(sheet.pixel(left + 5, selector + 120 + 20)), 255); // lit black keys
             QCOMPARE(qAlpha(sheet.pixel(left + 5, selector + 120 + 50)), 0);
         }
+}
+
+void TestPictures::switchesTellTheirStatesApart()
+{
+    for (const char* which : {"Tonic", "Scale"}) {
+        const auto state = [which](const char* name) {
+            return committed(
+                QStringLiteral("Switch/%1Switch%2.png").arg(QLatin1String(which), QLatin1String(name)));
+        };
+        const QImage neutral = state("Neutral"), off = state("Off"), on = state("On");
+        QVERIFY(luminance(off, 10, 11) > luminance(off, 30, 11)); // the knob on the left
+        QVERIFY(QColor(on.pixel(30, 11)).saturation() < 60);      // and on the right, of bare metal
+        QVERIFY(luminance(neutral, 20, 11) < luminance(off, 10, 11));
+        QVERIFY(QColor(on.pixel(10, 11)).saturation() > 120); // beside the lit track
+    }
+}
+
+void TestPictures::picturesStaySmall()
+{
+    qint64 bytes = 0;
+    for (const Picture& picture : allPictures())
+        for (const QString& path : {picture.path, denseName(picture.path)})
+            bytes += QFileInfo(QStringLiteral(SORVANE_RESOURCES "/") + path).size();
+    QVERIFY(bytes > 0);
+    QVERIFY2(bytes < 1500000, qPrintable(QString::number(bytes)));
 }
 
 QTEST_MAIN(TestPictures)

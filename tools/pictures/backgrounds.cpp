@@ -1,4 +1,4 @@
-// The case: the sleeping panel below everything, and the two sheets of light and shadow above the keys.
+// The case with everything on it asleep: what lies below all scenes.
 
 #include "tools/pictures/brush.h"
 #include "tools/pictures/palette.h"
@@ -16,123 +16,125 @@ void paintMetal(QPainter& p)
 {
     const QRectF all(0, 0, stage::width, stage::height);
     QLinearGradient metal(all.topLeft(), all.bottomLeft());
-    metal.setColorAt(0, mix(palette::metal, palette::metalLight, 0.7));
-    metal.setColorAt(0.30, palette::metal);
-    metal.setColorAt(0.62, mix(palette::metal, palette::metalLight, 0.25));
-    metal.setColorAt(1, mix(palette::metal, palette::metalDark, 0.55));
+    metal.setColorAt(0, mix(palette::metal, palette::metalLight, 0.85));
+    metal.setColorAt(0.32, palette::metal);
+    metal.setColorAt(0.60, mix(palette::metal, palette::metalLight, 0.30));
+    metal.setColorAt(1, mix(palette::metal, palette::metalDark, 0.70));
     p.fillRect(all, metal);
-    for (int y = 0; y < stage::height; y += 2) // brushed along its length
-        p.fillRect(QRectF(0, y, stage::width, 1), withAlpha(Qt::white, y % 6 == 0 ? 14 : 7));
-    p.fillRect(QRectF(0, 0, stage::width, 1), withAlpha(Qt::white, 140));
-    p.fillRect(QRectF(0, 0, 1, stage::height), withAlpha(Qt::white, 90));
-    p.fillRect(QRectF(stage::width - 1, 0, 1, stage::height), withAlpha(Qt::black, 70));
-    p.fillRect(QRectF(0, stage::height - 1, stage::width, 1), withAlpha(Qt::black, 110));
+    brush::brushed(p, all, 9);
+    brush::fadeDown(p, QRectF(0, 0, stage::width, 3), withAlpha(Qt::white, 190));
+    brush::fadeUp(p, QRectF(0, stage::height - 4, stage::width, 4), withAlpha(Qt::black, 150));
+    p.fillRect(QRectF(0, 0, 1, stage::height), withAlpha(Qt::white, 110));
+    p.fillRect(QRectF(stage::width - 1, 0, 1, stage::height), withAlpha(Qt::black, 90));
 }
 
-void paintDisplay(QPainter& p)
+// The blocks at the ends of a keyboard; the light beside the outermost keys falls on them.
+void paintCheeks(QPainter& p, const QRectF& keys)
 {
-    const QRectF frame = stage::display.adjusted(-6, -6, 6, 5);
-    brush::recess(p, frame, 5, palette::well, palette::wellLight);
-    p.fillRect(stage::display, palette::display);
-    p.fillRect(QRectF(stage::display.left(), 274, stage::display.width(), 6), palette::displayShade);
-    for (int i = 0; i < 4; ++i) // the pane lies behind the frame
-        p.fillRect(QRectF(stage::display.left(), stage::display.top() + i, stage::display.width(), 1),
-                   withAlpha(Qt::black, 46 - 11 * i));
-    for (int i = 0; i < 3; ++i)
-        p.fillRect(QRectF(stage::display.left() + i, stage::display.top(), 1, stage::display.height()),
-                   withAlpha(Qt::black, 26 - 8 * i));
-    p.fillRect(QRectF(frame.left() + 4, frame.bottom() + 1, frame.width() - 8, 1), withAlpha(Qt::white, 90));
+    for (const QRectF& cheek :
+         {QRectF(QPointF(stage::wellLeft, keys.top()), QPointF(keys.left(), keys.bottom())),
+          QRectF(QPointF(keys.right(), keys.top()), QPointF(stage::wellRight, keys.bottom()))}) {
+        p.fillRect(cheek,
+                   vertical(cheek, palette::graphite, mix(palette::graphite, palette::graphiteLight, 0.5)));
+        p.fillRect(QRectF(cheek.left(), cheek.top(), 1, cheek.height()), withAlpha(Qt::white, 26));
+        p.fillRect(QRectF(cheek.right() - 1, cheek.top(), 1, cheek.height()), palette::gap);
+        p.fillRect(QRectF(cheek.left(), cheek.bottom() - 3, cheek.width(), 1), withAlpha(Qt::white, 60));
+        p.fillRect(QRectF(cheek.left(), cheek.bottom() - 2, cheek.width(), 2), palette::gap);
+        brush::fadeDown(p, QRectF(cheek.topLeft(), QSizeF(cheek.width(), 12)), withAlpha(Qt::black, 150));
+    }
 }
 
-void paintPanel(QPainter& p, const QRectF& area, QPointF octave, const QString& caption)
+void paintWell(QPainter& p, const QRectF& keys)
 {
-    const QRectF plate = area.adjusted(0, -1, 0, 4);
-    brush::fillRound(p, plate, 6,
-                     vertical(plate, mix(palette::metalDark, palette::metal, 0.25), palette::metalDark));
-    brush::strokeRound(p, plate, 6, withAlpha(Qt::black, 70));
-    brush::strokeRound(p, plate.adjusted(0, 1, 0, 1), 6, withAlpha(Qt::white, 60));
-    brush::recess(p, QRectF(octave.x() - 3, octave.y() - 3, 125, 66), 3, palette::well, palette::wellLight);
-    paintSleepingOctave(p, octave);
-    brush::text(p, QRectF(octave.x(), octave.y() + 68, 76, 16), caption, 10, true, palette::well,
-                Qt::AlignLeft | Qt::AlignVCenter, 2);
+    brush::recess(
+        p, QRectF(stage::wellLeft, keys.top() - 2, stage::wellRight - stage::wellLeft, keys.height() + 2), 2,
+        palette::well, palette::well);
+    paintCheeks(p, keys);
 }
 
 void paintWells(QPainter& p)
 {
-    brush::recess(p, QRectF(26, 21, 909, 127), 3, palette::well, palette::well);
-    brush::recess(p, QRectF(26, 297, 909, 190), 3, palette::well, palette::well);
+    for (const QRectF& rail : {stage::outRail, stage::headerGround, stage::inRail})
+        brush::recess(p, rail, 2, palette::well, palette::well);
+    paintWell(p, stage::outKeys);
+    paintWell(p, stage::inKeys);
 }
 
+void paintDisplay(QPainter& p)
+{
+    const QRectF pane = stage::display, frame = pane.adjusted(-6, -6, 6, 6);
+    brush::halo(p, frame, 5, 4, withAlpha(Qt::black, 90));
+    brush::recess(p, frame, 5, palette::well, palette::wellLight);
+    brush::strokeRound(p, pane.adjusted(-2, -2, 2, 2), 1, withAlpha(Qt::black, 120));
+    p.fillRect(pane.adjusted(-1, -1, 1, 1), palette::gap);
+    p.fillRect(pane, palette::display);
+    p.fillRect(QRectF(pane.left(), 274, pane.width(), 6), palette::displayShade);
+    brush::fadeDown(p, QRectF(pane.topLeft(), QSizeF(pane.width(), 7)), withAlpha(Qt::black, 80));
+    for (int i = 0; i < 4; ++i) {
+        const QColor shade = withAlpha(Qt::black, 32 - 8 * i);
+        p.fillRect(QRectF(pane.left() + i, pane.top(), 1, pane.height()), shade);
+        p.fillRect(QRectF(pane.right() - 1 - i, pane.top(), 1, pane.height()), shade);
+    }
+}
+
+void paintPanel(QPainter& p, const QRectF& area, const QRectF& octave, const QString& caption)
+{
+    brush::fillRound(p, area.adjusted(-1, 0, 1, 2), 6, withAlpha(Qt::white, 85)); // lower lip
+    brush::fillRound(p, area.adjusted(-1, -1, 1, 1), 6, withAlpha(Qt::black, 70));
+    const QColor ground = mix(palette::metalDark, palette::metal, 0.15);
+    brush::fillRound(p, area, 5, vertical(area, mix(ground, Qt::black, 0.12), ground));
+    p.save();
+    QPainterPath tray;
+    tray.addRoundedRect(area, 5, 5);
+    p.setClipPath(tray);
+    brush::brushed(p, area, 6);
+    brush::fadeDown(p, QRectF(area.topLeft(), QSizeF(area.width(), 6)), withAlpha(Qt::black, 80));
+    p.restore();
+    brush::recess(p, octave.adjusted(-3, -2, 3, 3), 3, palette::well, palette::wellLight);
+    paintSleepingOctave(p, octave.topLeft());
+    brush::engraved(p, QRectF(octave.left(), octave.bottom() + 8, 76, 16), caption, 10,
+                    Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+// Covers of the openings in the right margin.
 void paintPlates(QPainter& p)
 {
-    for (const QRectF& plate : {QRectF(937, 45, 12, 45), QRectF(937, 427, 12, 45)}) {
-        brush::recess(p, plate, 4, mix(palette::metalDark, palette::well, 0.55), palette::metalDark);
-        brush::fillRound(p, QRectF(plate.left() + 3, plate.top() + 6, 6, 16), 3,
-                         vertical(plate, palette::metalLight, palette::metalEdge));
+    for (const QRectF& plate : {QRectF(937, 47, 12, 41), QRectF(937, 429, 12, 41)}) {
+        brush::halo(p, plate, 3, 2, withAlpha(Qt::black, 140));
+        brush::fillRound(p, plate, 3, vertical(plate, palette::metalLight, palette::metal));
+        brush::strokeRound(p, plate, 3, withAlpha(Qt::black, 60));
+        p.fillRect(QRectF(plate.left() + 2, plate.top(), plate.width() - 4, 1), withAlpha(Qt::white, 180));
+        brush::screw(p, {plate.center().x(), plate.top() + 6}, 2, 20);
+        brush::screw(p, {plate.center().x(), plate.bottom() - 6}, 2, -35);
     }
 }
 
 void paintEngravings(QPainter& p)
 {
-    const auto caption = [&p](const QRectF& area, const char* words, int alignment) {
-        brush::text(p, area.translated(0, 1), QLatin1String(words), 9, true, withAlpha(Qt::white, 110),
-                    alignment, 2);
-        brush::text(p, area, QLatin1String(words), 9, true, palette::engraving, alignment, 2);
-    };
-    caption(QRectF(28, 149, 200, 12), "OUTPUT", Qt::AlignLeft | Qt::AlignVCenter);
-    caption(QRectF(724, 149, 204, 12), "SORVANE", Qt::AlignRight | Qt::AlignVCenter);
-    caption(QRectF(28, 284, 200, 12), "INPUT", Qt::AlignLeft | Qt::AlignVCenter);
+    constexpr int left = Qt::AlignLeft | Qt::AlignVCenter, right = Qt::AlignRight | Qt::AlignVCenter;
+    brush::engraved(p, QRectF(28, 148, 160, 12), QStringLiteral("OUTPUT"), 9, left);
+    brush::engraved(p, QRectF(760, 148, 168, 12), QStringLiteral("SORVANE"), 9, right);
+    brush::engraved(p, QRectF(28, 284, 160, 12), QStringLiteral("INPUT"), 9, left);
 }
 
 void paintCase(QPainter& p)
 {
     paintMetal(p);
     paintWells(p);
-    paintPanel(p, QRectF(27, 162, 170, 112), stage::tonicOctave, QStringLiteral("TONIC"));
-    paintPanel(p, QRectF(749, 162, 177, 112), stage::scaleOctave, QStringLiteral("SCALE"));
+    paintPanel(p, stage::leftPanel, stage::tonicOctave, QStringLiteral("TONIC"));
+    paintPanel(p, stage::rightPanel, stage::scaleOctave, QStringLiteral("SCALE"));
     paintDisplay(p);
     paintPlates(p);
     paintEngravings(p);
-    for (const QPointF& place : {QPointF(13, 14), QPointF(13, 222), QPointF(13, 466), QPointF(943, 222)})
-        brush::screw(p, place);
-}
-
-void paintCaseShadow(QPainter& p, int alpha)
-{
-    for (const double top : {48.0, 348.0}) {
-        const QRectF shade(34, top, 886, 9);
-        p.fillRect(shade, vertical(shade, withAlpha(Qt::black, alpha), withAlpha(Qt::black, 0)));
-    }
-}
-
-void paintSpill(QPainter& p, double y, const QColor& color)
-{
-    const QRectF spill(34, y, 886, 16);
-    p.fillRect(spill, vertical(spill, withAlpha(color, 56), withAlpha(color, 0)));
-}
-
-void paintOn(QPainter& p)
-{
-    paintCaseShadow(p, 70);
-    p.fillRect(QRectF(34, 46, 886, 2), withAlpha(palette::amber, 150));
-    paintSpill(p, 48, palette::amber);
-    paintSpill(p, 348, palette::blue);
-    brush::glow(p, stage::display, 1, QColor(255, 255, 240), 130);
-}
-
-void paintOff(QPainter& p)
-{
-    paintCaseShadow(p, 100);
-    for (const QRectF& keys : {QRectF(34, 48, 886, 99), QRectF(34, 348, 886, 99)})
-        p.fillRect(keys, withAlpha(palette::well, 20)); // dusk
+    brush::screw(p, {13.5, 14}, 3.5, 25);
+    brush::screw(p, {13.5, 221}, 3.5, -50);
+    brush::screw(p, {13.5, 465}, 3.5, 70);
+    brush::screw(p, {943, 221}, 3.5, 10);
 }
 
 } // namespace
 
 void addBackgrounds(std::vector<Picture>& table)
 {
-    const QSize size(stage::width, stage::height);
-    table.push_back({"Background/BG_off.png", size, paintCase});
-    table.push_back({"Background/BG_t_on-CM.png", size, paintOn});
-    table.push_back({"Background/BG_t_off.png", size, paintOff});
+    table.push_back({"Background/BG_off.png", {stage::width, stage::height}, paintCase});
 }

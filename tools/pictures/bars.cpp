@@ -1,4 +1,4 @@
-// The bars and lines along the keyboards.
+// The rails and lines along the keyboards.
 
 #include "tools/pictures/brush.h"
 #include "tools/pictures/palette.h"
@@ -10,52 +10,84 @@ using brush::mix;
 using brush::vertical;
 using brush::withAlpha;
 
-void paintBar(QPainter& p, const QSizeF& size, const QColor& tint)
+constexpr double railWidth = 907;
+constexpr int firstKey = 8, whiteKeyWidth = 17, whiteKeyCount = 52, whitesPerOctave = 7, firstC = 2;
+
+// A ruler on the side of the keys: a mark at each white key's edge, a longer one below each C.
+void paintMarks(QPainter& p, double railHeight, bool keysAbove)
 {
-    const QRectF bar(QPointF(), size);
-    const QColor face = mix(palette::metalLight, tint, 0.22);
-    p.fillRect(bar, vertical(bar, mix(face, Qt::white, 0.25), mix(face, palette::metalDark, 0.45)));
-    p.fillRect(QRectF(0, 0, bar.width(), 1), withAlpha(Qt::white, 150));
-    p.fillRect(QRectF(0, bar.height() - 1, bar.width(), 1), withAlpha(Qt::black, 90));
-    p.fillRect(QRectF(0, 0, 1, bar.height()), withAlpha(Qt::white, 90));
-    p.fillRect(QRectF(bar.width() - 1, 0, 1, bar.height()), withAlpha(Qt::black, 70));
+    for (int k = 0; k <= whiteKeyCount; ++k) {
+        const double length = k % whitesPerOctave == firstC ? 5 : 3;
+        const double y = keysAbove ? 1 : railHeight - 1 - length;
+        const double x = firstKey + whiteKeyWidth * k;
+        p.fillRect(QRectF(x, y, 1, length), withAlpha(palette::ink, 150));
+        p.fillRect(QRectF(x + 1, y, 1, length), withAlpha(Qt::white, 110));
+    }
 }
 
-void paintInputBar(QPainter& p)
+void paintRail(QPainter& p, double height, const QColor& tint)
 {
-    paintBar(p, QSizeF(907, 33), palette::blueLight); // degrees above, the anchors' rail below
-    brush::recess(p, QRectF(2, 17, 903, 14), 2, palette::well, mix(palette::well, palette::blueDark, 0.35));
+    const QRectF rail(0, 0, railWidth, height);
+    const QColor face = mix(palette::metalLight, tint, 0.30);
+    QLinearGradient shape(rail.topLeft(), rail.bottomLeft());
+    shape.setColorAt(0, mix(face, Qt::white, 0.42));
+    shape.setColorAt(0.45, face);
+    shape.setColorAt(1, mix(face, palette::metalDark, 0.42));
+    p.fillRect(rail, shape);
+    brush::brushed(p, rail.adjusted(1, 1, -1, -1), 7);
+    p.fillRect(QRectF(0, 0, railWidth, 1), withAlpha(Qt::white, 170));
+    p.fillRect(QRectF(0, height - 1, railWidth, 1), withAlpha(Qt::black, 110));
+    p.fillRect(QRectF(0, 0, 1, height), withAlpha(Qt::white, 110));
+    p.fillRect(QRectF(railWidth - 1, 0, 1, height), withAlpha(Qt::black, 90));
 }
 
-void paintOutputBar(QPainter& p)
+void paintInputRail(QPainter& p)
 {
-    paintBar(p, QSizeF(907, 21), palette::amberLight);
+    paintRail(p, 33, palette::blueLight);
+    brush::fadeDown(p, QRectF(0, 0, railWidth, 4), withAlpha(Qt::black, 90)); // the keys stand over it
+    paintMarks(p, 33, true);
+    // Degrees above; below them the slot in which the anchors slide, dark behind their numbers.
+    brush::recess(p, QRectF(2, 17, railWidth - 4, 14), 2, palette::well,
+                  mix(palette::well, palette::blueDark, 0.4));
 }
 
-void paintLine(QPainter& p, double width, const QColor& color)
+void paintOutputRail(QPainter& p)
+{
+    paintRail(p, 21, palette::amberLight);
+    paintMarks(p, 21, false);
+}
+
+// A rod of glass that the overlay of the panel makes shine.
+void paintRod(QPainter& p, double width, const QColor& color)
 {
     p.fillRect(QRectF(0, 0, width, 3), palette::well);
-    p.fillRect(QRectF(0, 1, width, 1), mix(palette::wellLight, color, 0.55));
+    p.fillRect(QRectF(1, 1, width - 2, 1), mix(palette::wellLight, color, 0.42));
+    p.fillRect(QRectF(0, 2, width, 1), mix(palette::well, Qt::black, 0.35));
 }
 
 void paintHeaderGround(QPainter& p)
 {
-    const QRectF ground(0, 0, 907, 46);
-    p.fillRect(ground, vertical(ground, mix(palette::well, palette::blueDark, 0.18),
-                                mix(palette::wellLight, palette::blueDark, 0.32)));
-    for (int y = 3; y < 46; y += 3)
-        p.fillRect(QRectF(0, y, 907, 1), withAlpha(Qt::white, 8));
-    const QRectF shade(0, 0, 907, 8);
-    p.fillRect(shade, vertical(shade, withAlpha(Qt::black, 110), withAlpha(Qt::black, 0)));
+    const QRectF ground(0, 0, railWidth, 46);
+    p.fillRect(ground, vertical(ground, mix(palette::well, palette::blueDark, 0.20),
+                                mix(palette::wellLight, palette::blueDark, 0.38)));
+    for (int y = 2; y < 46; y += 3) { // fine ribs, so that the ground stays behind the flags
+        p.fillRect(QRectF(0, y, railWidth, 1), withAlpha(Qt::white, 7));
+        p.fillRect(QRectF(0, y + 1, railWidth, 1), withAlpha(Qt::black, 22));
+    }
+    brush::fadeDown(p, QRectF(0, 0, railWidth, 12), withAlpha(Qt::black, 150));
+    p.fillRect(QRectF(0, 0, 1, 46), withAlpha(Qt::black, 120));
+    p.fillRect(QRectF(railWidth - 1, 0, 1, 46), withAlpha(Qt::black, 120));
+    p.fillRect(QRectF(0, 44, railWidth, 1), withAlpha(Qt::white, 40)); // the sill before the keys
+    p.fillRect(QRectF(0, 45, railWidth, 1), withAlpha(Qt::black, 160));
 }
 
 } // namespace
 
 void addBars(std::vector<Picture>& table)
 {
-    table.push_back({"INPUTanchorbar.png", {907, 33}, paintInputBar});
-    table.push_back({"OUTPUTanchorbar.png", {907, 21}, paintOutputBar});
-    table.push_back({"hlineIn.png", {903, 3}, [](QPainter& p) { paintLine(p, 903, palette::blue); }});
-    table.push_back({"hlineOut.png", {907, 3}, [](QPainter& p) { paintLine(p, 907, palette::amber); }});
+    table.push_back({"INPUTanchorbar.png", {907, 33}, paintInputRail});
+    table.push_back({"OUTPUTanchorbar.png", {907, 21}, paintOutputRail});
+    table.push_back({"hlineIn.png", {903, 3}, [](QPainter& p) { paintRod(p, 903, palette::blue); }});
+    table.push_back({"hlineOut.png", {907, 3}, [](QPainter& p) { paintRod(p, 907, palette::amber); }});
     table.push_back({"INPUTheaderBG.png", {907, 46}, paintHeaderGround});
 }

@@ -4,7 +4,30 @@
 
 #include <QFont>
 
+#include <cmath>
+
 namespace brush {
+namespace {
+
+// A fade that starts and ends gently; a straight one shows its ends as lines.
+void fade(QPainter& painter, const QRectF& area, const QPointF& from, const QPointF& to, const QColor& color)
+{
+    QLinearGradient gradient(from, to);
+    for (int i = 0; i <= 8; ++i) {
+        const double way = i / 8.0;
+        gradient.setColorAt(way, withAlpha(color, qRound(color.alpha() * (1 - way) * (1 - way))));
+    }
+    painter.fillRect(area, gradient);
+}
+
+QPainterPath roundPath(const QRectF& area, double radius)
+{
+    QPainterPath path;
+    path.addRoundedRect(area, radius, radius);
+    return path;
+}
+
+} // namespace
 
 QColor mix(const QColor& a, const QColor& b, double share)
 {
@@ -28,6 +51,24 @@ QLinearGradient vertical(const QRectF& area, const QColor& top, const QColor& bo
     return gradient;
 }
 
+QLinearGradient horizontal(const QRectF& area, const QColor& left, const QColor& right)
+{
+    QLinearGradient gradient(area.topLeft(), area.topRight());
+    gradient.setColorAt(0, left);
+    gradient.setColorAt(1, right);
+    return gradient;
+}
+
+void fadeDown(QPainter& painter, const QRectF& area, const QColor& color)
+{
+    fade(painter, area, area.topLeft(), area.bottomLeft(), color);
+}
+
+void fadeUp(QPainter& painter, const QRectF& area, const QColor& color)
+{
+    fade(painter, area, area.bottomLeft(), area.topLeft(), color);
+}
+
 void fillRound(QPainter& painter, const QRectF& area, double radius, const QBrush& fill)
 {
     painter.setPen(Qt::NoPen);
@@ -44,41 +85,67 @@ void strokeRound(QPainter& painter, const QRectF& area, double radius, const QCo
 
 void recess(QPainter& painter, const QRectF& area, double radius, const QColor& top, const QColor& bottom)
 {
-    // The lip catches the light below, the case shades above.
-    strokeRound(painter, area.adjusted(-1, -1, 1, 2), radius + 1, withAlpha(Qt::white, 70));
-    strokeRound(painter, area.adjusted(-1, -1, 1, 1), radius + 1, withAlpha(Qt::black, 90));
+    strokeRound(painter, area.adjusted(-1, 0, 1, 2), radius + 1, withAlpha(Qt::white, 95));
+    fillRound(painter, area.adjusted(-1, -1, 1, 1), radius + 1, withAlpha(Qt::black, 120));
     fillRound(painter, area, radius, vertical(area, top, bottom));
     painter.save();
-    QPainterPath clip;
-    clip.addRoundedRect(area, radius, radius);
-    painter.setClipPath(clip);
-    for (int i = 0; i < 5; ++i)
-        strokeRound(painter, area.adjusted(-2, i - 1, 2, 20), radius, withAlpha(Qt::black, 60 - 12 * i));
+    painter.setClipPath(roundPath(area, radius));
+    fadeDown(painter, QRectF(area.topLeft(), QSizeF(area.width(), 7)), withAlpha(Qt::black, 170));
+    for (int i = 0; i < 2; ++i) // the walls shade the ground beside them
+        strokeRound(painter, area.adjusted(i, -4, -i, 4), radius, withAlpha(Qt::black, 60 - 25 * i));
     painter.restore();
 }
 
-void glow(QPainter& painter, const QRectF& area, double radius, const QColor& color, int alpha)
+void halo(QPainter& painter, const QRectF& area, double radius, double reach, const QColor& color)
 {
-    for (int i = 5; i >= 1; --i) {
-        const double grow = i * 1.2;
-        strokeRound(painter, area.adjusted(-grow, -grow, grow, grow), radius + grow,
-                    withAlpha(color, alpha / (i + 1)));
+    painter.save();
+    const QRectF room = area.adjusted(-reach - 1, -reach - 1, reach + 1, reach + 1);
+    QPainterPath outside;
+    outside.addRect(room);
+    painter.setClipPath(outside.subtracted(roundPath(area, radius)));
+    const int rings = qRound(reach * 2);
+    for (int i = rings; i >= 1; --i) {
+        const double grow = i * 0.5, way = static_cast<double>(i) / rings;
+        const double alpha = color.alpha() * (1 - way) * (1 - way) * 3.0 / rings;
+        fillRound(painter, area.adjusted(-grow, -grow, grow, grow), radius + grow,
+                  withAlpha(color, qMin(255, qRound(alpha))));
+    }
+    painter.restore();
+}
+
+void brushed(QPainter& painter, const QRectF& area, int strength)
+{
+    // Whole rows only: they look like brushed metal and still pack well.
+    quint32 noise = 0x9e3779b9U;
+    for (double y = area.top(); y < area.bottom(); y += 0.5) {
+        noise = noise * 1664525U + 1013904223U;
+        const int alpha = static_cast<int>(noise >> 16) % (2 * strength + 1) - strength;
+        const QColor streak = withAlpha(alpha > 0 ? Qt::white : Qt::black, std::abs(alpha));
+        painter.fillRect(QRectF(area.left(), y, area.width(), 0.5), streak);
     }
 }
 
-void screw(QPainter& painter, const QPointF& centre)
+void screw(QPainter& painter, const QPointF& centre, double radius, double turn)
 {
-    const QRectF head(centre.x() - 3.5, centre.y() - 3.5, 7, 7);
-    fillRound(painter, head.adjusted(-0.8, -0.3, 0.8, 1.3), 4, withAlpha(Qt::black, 70));
-    fillRound(painter, head, 3.5, vertical(head, palette::metalLight, palette::metalEdge));
-    painter.setPen(QPen(palette::gap, 1));
-    painter.drawLine(centre + QPointF(-2, -1), centre + QPointF(2, 1));
+    const QRectF head(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius);
+    fillRound(painter, head.adjusted(-1, -1, 1, 1), radius + 1, withAlpha(Qt::black, 75));
+    fillRound(painter, head.adjusted(-1, 0, 1, 2), radius + 1, withAlpha(Qt::white, 55));
+    fillRound(painter, head, radius, vertical(head, palette::metalLight, palette::metalDark));
+    strokeRound(painter, head, radius, withAlpha(Qt::black, 70));
+    painter.save();
+    painter.translate(centre);
+    painter.rotate(turn);
+    const double arm = radius - 1;
+    painter.fillRect(QRectF(-arm, -0.5, 2 * arm, 1.4), withAlpha(Qt::white, 110));
+    painter.fillRect(QRectF(-arm, -0.7, 2 * arm, 1), palette::gap);
+    painter.restore();
 }
 
 void text(QPainter& painter, const QRectF& area, const QString& words, int pixelSize, bool bold,
           const QColor& color, int alignment, double spacing)
 {
-    QFont font(QStringLiteral("Liberation Sans"));
+    QFont font;
+    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial")});
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(pixelSize);
     font.setBold(bold);
@@ -86,6 +153,12 @@ void text(QPainter& painter, const QRectF& area, const QString& words, int pixel
     painter.setFont(font);
     painter.setPen(color);
     painter.drawText(area, alignment, words);
+}
+
+void engraved(QPainter& painter, const QRectF& area, const QString& words, int pixelSize, int alignment)
+{
+    text(painter, area.translated(0, 1), words, pixelSize, true, withAlpha(Qt::white, 105), alignment, 2);
+    text(painter, area, words, pixelSize, true, palette::engraving, alignment, 2);
 }
 
 } // namespace brush

@@ -64,7 +64,7 @@ void paintPanel(QPainter& p, const QSizeF& size)
     paintField(p, fieldOf(size));
     for (const double x : {plate.left() + 8, plate.right() - 8})
         for (const double y : {plate.top() + 7.5, plate.bottom() - 7.5})
-            brush::screw(p, {x, y});
+            brush::screw(p, {x, y}, 3.5, x < 100 ? 25 : -40);
 }
 
 void paintArrow(QPainter& p)

@@ -4,6 +4,7 @@
 #include "tools/pictures/picture_table.h"
 
 #include <array>
+#include <cstring>
 #include <vector>
 
 namespace {
@@ -54,12 +55,39 @@ const Glyph& shapeOf(const Glyph& plain, const Glyphs& instead)
     return plain;
 }
 
+bool isInk(const Glyph& glyph, int x, int y)
+{
+    if (x < 0 || y < 0 || y >= 8)
+        return false;
+    const char* row = glyph.rows[static_cast<std::size_t>(y)];
+    return x < static_cast<int>(std::strlen(row)) && row[x] == '#';
+}
+
+/// True if a quarter of a pixel has ink; `right` and `down` are -1 or 1. A corner of two strokes that meet is
+/// filled and the outer corner of a bend is taken off, so that dense screens see slopes instead of stairs.
+bool isInkInQuarter(const Glyph& glyph, int x, int y, int right, int down)
+{
+    const bool beside = isInk(glyph, x + right, y), along = isInk(glyph, x, y + down);
+    const bool bend =
+        beside == along && beside != isInk(glyph, x - right, y) && along != isInk(glyph, x, y - down);
+    return bend ? beside : isInk(glyph, x, y);
+}
+
 void paintGlyph(QPainter& p, const Glyph& glyph, const QColor& color)
 {
+    const bool dense = p.worldTransform().m11() > 1;
+    const int width = static_cast<int>(std::strlen(glyph.rows[0]));
     for (int y = 0; y < 8; ++y)
-        for (int x = 0; glyph.rows[static_cast<std::size_t>(y)][x]; ++x)
-            if (glyph.rows[static_cast<std::size_t>(y)][x] == '#')
+        for (int x = 0; x < width; ++x) {
+            if (!dense && isInk(glyph, x, y))
                 p.fillRect(glyph.column + x, y, 1, 1, color);
+            for (const int right : {-1, 1})
+                for (const int down : {-1, 1})
+                    if (dense && isInkInQuarter(glyph, x, y, right, down))
+                        p.fillRect(QRectF(glyph.column + x + (right > 0 ? 0.5 : 0), y + (down > 0 ? 0.5 : 0),
+                                          0.5, 0.5),
+                                   color);
+        }
 }
 
 void paintDigits(QPainter& p, const QColor& color, const Glyphs& instead)

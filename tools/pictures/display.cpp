@@ -28,31 +28,27 @@ void paintCells(QPainter& p)
                 p.fillRect(x, y, 1, 1, cell);
 }
 
-void paintGlare(QPainter& p)
+// A band of light across the pane, soft on both sides; it keeps clear of the form's flat labels.
+void paintBand(QPainter& p, double x, double width, int alpha)
 {
+    constexpr double slant = 46;
     QPainterPath band;
-    band.moveTo(452, 0);
-    band.lineTo(532, 0);
-    band.lineTo(532, 40);
-    band.lineTo(482, 116);
-    band.lineTo(424, 116);
+    band.addPolygon(QPolygonF({{x + slant, 0}, {x + slant + width, 0}, {x + width, 116}, {x, 116}}));
     band.closeSubpath();
-    QLinearGradient light(452, 0, 500, 116);
-    light.setColorAt(0, withAlpha(Qt::white, 60));
-    light.setColorAt(1, withAlpha(Qt::white, 6));
+    QLinearGradient light(QPointF(x + slant / 2, 58),
+                          QPointF(x + slant / 2 + width, 58 + width * slant / 116));
+    light.setColorAt(0, withAlpha(Qt::white, 0));
+    light.setColorAt(0.25, withAlpha(Qt::white, alpha / 2));
+    light.setColorAt(0.6, withAlpha(Qt::white, alpha));
+    light.setColorAt(1, withAlpha(Qt::white, 0));
     p.fillPath(band, light);
 }
 
-void paintLogo(QPainter& p)
+void paintGlare(QPainter& p)
 {
-    brush::text(p, QRectF(0, 4, 258, 44), QStringLiteral("sorvane"), 40, true, palette::ink, Qt::AlignCenter,
-                5);
-    constexpr double heights[] = {3, 5, 7, 9, 11, 9, 7, 5, 3}; // a run up and down
-    double x = 129 - 4.5 * 9 + 1;
-    for (const double height : heights) {
-        p.fillRect(QRectF(x, 62 - height, 6, height), withAlpha(palette::ink, 170));
-        x += 9;
-    }
+    paintBand(p, 402, 60, 34);
+    paintBand(p, 472, 18, 26);
+    brush::fadeDown(p, QRectF(0, 0, displaySize.width(), 14), withAlpha(Qt::white, 26));
 }
 
 enum class ButtonLook { neutral, hover, checked, disabled };
@@ -92,7 +88,6 @@ void addDisplayPictures(std::vector<Picture>& table)
     table.push_back({"Background/GlareDisplaySilkscreen.png", displaySize, paintGlare});
     table.push_back({"Background/smoke.gif", displaySize, paintCells});
     table.push_back({"Background/transparent.png", {17, 60}, [](QPainter&) {}});
-    table.push_back({"CenterScreen/Sorvane-Logo-CM.png", {258, 65}, paintLogo});
     const auto button = [&table](const char* name, ButtonLook look) {
         table.push_back({QStringLiteral("CenterScreen/Button_%1.png").arg(QLatin1String(name)),
                          {105, 23},

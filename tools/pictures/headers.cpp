@@ -5,6 +5,8 @@
 #include "tools/pictures/palette.h"
 #include "tools/pictures/picture_table.h"
 
+#include <cmath>
+
 namespace {
 
 using brush::mix;
@@ -49,25 +51,38 @@ void paintShadow(QPainter& p, const Flag& f)
     }
 }
 
-void paintPole(QPainter& p, const Flag& f)
+QLinearGradient steel(double left, double right)
 {
-    const double x = f.badge.center().x();
-    const QRectF pole(x - 2, f.head.bottom() - 2, 4, f.tip - f.head.bottom() + 2);
-    QLinearGradient metal(pole.topLeft(), pole.topRight());
+    QLinearGradient metal(left, 0, right, 0);
     metal.setColorAt(0, palette::metalEdge);
     metal.setColorAt(0.4, palette::metalLight);
     metal.setColorAt(1, mix(palette::metalEdge, Qt::black, 0.4));
+    return metal;
+}
+
+bool flies(const Flag& f)
+{
+    return std::abs(f.badge.center().x() - f.head.center().x()) > f.head.width() / 2 - 2;
+}
+
+void paintPole(QPainter& p, const Flag& f)
+{
+    const double x = f.badge.center().x();
+    const double top = flies(f) ? f.head.top() : f.head.bottom() - 2;
+    const QRectF pole(x - 2, top, 4, f.tip - top);
     brush::fillRound(p, pole.adjusted(-1, 0, 1, 1), 1.5, withAlpha(palette::gap, 200));
-    p.fillRect(pole, metal);
-    // An arm says whose pole it is where it passes at the edge of its head.
-    const double inward = qBound(-12.0, f.head.center().x() - x, 12.0);
-    const QRectF arm = QRectF(x, f.head.bottom() - 1, inward, 3).normalized().adjusted(-2, 0, 2, 0);
-    brush::fillRound(p, arm.adjusted(-1, 0, 1, 1), 1.5, withAlpha(palette::gap, 200));
-    brush::fillRound(p, arm, 1.5, vertical(arm, palette::metalLight, palette::metalEdge));
+    brush::fillRound(p, pole, 1.5, steel(pole.left(), pole.right()));
+    if (!flies(f)) // the pole stands behind the head: a clamp below it says whose it is
+    {
+        const double inward = qBound(-9.0, f.head.center().x() - x, 9.0);
+        const QRectF clamp = QRectF(x, f.head.bottom() - 1, inward, 3).normalized().adjusted(-3, 0, 3, 0);
+        brush::fillRound(p, clamp.adjusted(-1, 0, 1, 1), 1.5, withAlpha(palette::gap, 200));
+        brush::fillRound(p, clamp, 1.5, vertical(clamp, palette::metalLight, palette::metalEdge));
+    }
     // The foot clasps the key.
     const QRectF foot(x - 4, f.tip - 2, 8, 4);
     brush::fillRound(p, foot.adjusted(-1, -1, 1, 1), 2.5, withAlpha(palette::gap, 220));
-    brush::fillRound(p, foot, 2, metal);
+    brush::fillRound(p, foot, 2, steel(foot.left(), foot.right()));
 }
 
 void paintPlate(QPainter& p, const QRectF& area, double radius, const QColor& rim)
@@ -78,19 +93,22 @@ void paintPlate(QPainter& p, const QRectF& area, double radius, const QColor& ri
     brush::strokeRound(p, area.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, rim);
 }
 
+/// Out, the lamp is a ring around dark glass; lit, it is full. So the two differ without their colours.
 void paintLamp(QPainter& p, const QRectF& head, Look look)
 {
     const QRectF lens = head.adjusted(5, 8, -5, -8);
     const QColor light = isLit(look) ? palette::presetActive : palette::presetIdle;
-    const bool bright = look != Look::idle;
-    if (bright)
-        brush::glow(p, lens, 4, light, 150);
-    brush::fillRound(p, lens.adjusted(-1, -1, 1, 1), 5, withAlpha(Qt::black, 190));
-    const QColor top = bright ? mix(light, Qt::white, 0.55) : mix(light, Qt::black, 0.45);
-    const QColor bottom = bright ? mix(light, Qt::black, 0.08) : mix(light, Qt::black, 0.72);
-    brush::fillRound(p, lens, 4, vertical(lens, top, bottom));
-    brush::fillRound(p, QRectF(lens.left() + 2, lens.top() + 1, lens.width() - 4, 2), 1,
-                     withAlpha(Qt::white, bright ? 170 : 70));
+    brush::fillRound(p, lens.adjusted(-1, -1, 1, 1), 5, palette::gap);
+    if (look == Look::idle) {
+        brush::fillRound(p, lens, 4,
+                         vertical(lens, mix(light, Qt::black, 0.82), mix(light, Qt::black, 0.68)));
+        brush::strokeRound(p, lens, 4, mix(light, Qt::black, 0.1));
+        return;
+    }
+    brush::halo(p, lens, 4, 5, withAlpha(light, 210));
+    brush::fillRound(p, lens, 4, vertical(lens, mix(light, Qt::white, 0.6), mix(light, Qt::black, 0.06)));
+    brush::fillRound(p, QRectF(lens.left() + 3, lens.top() + 1, lens.width() - 6, 2), 1,
+                     withAlpha(Qt::white, 190));
 }
 
 /// Two arrows past each other: let go and the two change places.

@@ -1,6 +1,7 @@
 // The five key sheets and the light that lies on idle keys.
 
 #include "tools/pictures/brush.h"
+#include "tools/pictures/key_looks.h"
 #include "tools/pictures/palette.h"
 #include "tools/pictures/picture_table.h"
 
@@ -12,154 +13,153 @@ using brush::withAlpha;
 
 constexpr double whiteWidth = 17, whiteHeight = 99, blackWidth = 10, blackHeight = 64, notch = 5;
 
-/// The colours of one sheet: faces of idle and pressed keys, from back to front.
-struct Look
+/// A white key's place on the sheet and the sides on which a black key stands over it.
+struct WhiteShape
 {
-    QColor whiteBack, whiteFront, whitePressedBack, whitePressedFront;
-    QColor black, blackLight, blackPressed, blackPressedLight;
+    double x;
+    bool left, right;
+    bool pressed;
 };
 
-Look plainLook()
+/// The key without its notches, as wide as given; round corners at the front only.
+QPainterPath keyPath(const WhiteShape& key, double left, double front, double radius)
 {
-    using namespace palette;
-    return {mix(ivory, ivoryShade, 0.35),
-            ivory,
-            mix(ivoryShade, metalDark, 0.35),
-            ivoryShade,
-            graphite,
-            graphiteLight,
-            mix(graphite, Qt::black, 0.3),
-            mix(graphite, graphiteLight, 0.5)};
-}
-
-Look litLook(const QColor& light, const QColor& full, const QColor& dark)
-{
-    using namespace palette;
-    return {
-        mix(ivoryShade, light, 0.75), mix(ivory, light, 0.6), mix(full, dark, 0.25), mix(full, light, 0.35),
-        mix(dark, graphite, 0.15),    mix(full, dark, 0.35),  mix(full, dark, 0.2),  light};
-}
-
-Look asleepLook()
-{
-    using namespace palette;
-    const QColor back = mix(metalDark, ivoryShade, 0.15), front = mix(metalDark, ivoryShade, 0.35);
-    return {back,
-            front,
-            mix(back, Qt::black, 0.12),
-            mix(front, Qt::black, 0.12),
-            mix(graphite, metalDark, 0.35),
-            metalDark,
-            mix(graphite, metalDark, 0.25),
-            mix(graphite, metalDark, 0.6)};
-}
-
-QPainterPath whitePath(double x, bool left, bool right, double front)
-{
-    const double top = 0, edge = blackHeight, inner = 1; // the gap to the neighbour is the left column
     QPainterPath body;
-    body.addRoundedRect(QRectF(x + inner, top - 4, whiteWidth - inner, front + 4), 2, 2);
+    body.addRoundedRect(QRectF(left, -9, key.x + whiteWidth - left, front + 9), radius, radius);
     QPainterPath cut;
-    cut.addRect(x, -4, left ? notch : 0, edge + 4);
-    cut.addRect(x + whiteWidth - (right ? notch : 0), -4, right ? notch : 0, edge + 4);
-    cut.addRect(x, -5, whiteWidth, 5);
+    cut.addRect(key.x, -10, whiteWidth, 10);
+    if (key.left)
+        cut.addRect(key.x, -10, notch, blackHeight + 10);
+    if (key.right)
+        cut.addRect(key.x + whiteWidth - notch, -10, notch, blackHeight + 10);
     return body.subtracted(cut);
 }
 
-QPainterPath gapPath(double x, bool left, bool right)
+// Black keys stand higher: they shade the white face below their ends and along their sides.
+void paintShadowsOfBlacks(QPainter& p, const WhiteShape& key)
 {
-    QPainterPath outline;
-    outline.addRect(x, 0, whiteWidth, whiteHeight);
-    QPainterPath cut;
-    cut.addRect(x, 0, left ? notch : 0, blackHeight);
-    cut.addRect(x + whiteWidth - (right ? notch : 0), 0, right ? notch : 0, blackHeight);
-    return outline.subtracted(cut);
+    const double right = key.x + whiteWidth;
+    const int depth = key.pressed ? 120 : 85;
+    const double reach = key.pressed ? 9 : 6;
+    if (key.left) {
+        p.fillRect(QRectF(key.x + notch, 0, 1, blackHeight), withAlpha(Qt::black, depth / 2));
+        p.fillRect(QRectF(key.x + notch + 1, 0, 1, blackHeight + 1), withAlpha(Qt::black, depth / 5));
+        brush::fadeDown(p, QRectF(key.x, blackHeight, notch + 1, reach), withAlpha(Qt::black, depth));
+    }
+    if (key.right) {
+        p.fillRect(QRectF(right - notch - 1, 0, 1, blackHeight), withAlpha(Qt::black, depth / 2));
+        p.fillRect(QRectF(right - notch - 2, 0, 1, blackHeight + 1), withAlpha(Qt::black, depth / 5));
+        brush::fadeDown(p, QRectF(right - notch - 1, blackHeight, notch + 1, reach),
+                        withAlpha(Qt::black, depth));
+    }
 }
 
-void paintWhite(QPainter& p, double x, bool left, bool right, bool pressed, const Look& look)
+// A pressed key lies below its neighbours and reaches farther under the case.
+void paintDip(QPainter& p, const WhiteShape& key)
 {
-    const QRectF cell(x, 0, whiteWidth, whiteHeight);
-    const double faceEnd = pressed ? 97 : 93;
-    const QColor back = pressed ? look.whitePressedBack : look.whiteBack;
-    const QColor front = pressed ? look.whitePressedFront : look.whiteFront;
-    p.fillPath(gapPath(x, left, right), palette::gap);
-    // The front of the key stands below its face; a pressed key shows almost none of it.
-    p.fillPath(whitePath(x, left, right, 98), mix(back, palette::graphite, 0.25));
-    const QPainterPath face = whitePath(x, left, right, faceEnd);
-    p.fillPath(face, vertical(cell, back, front));
-    p.save();
-    p.setClipPath(face);
-    const double l = x + 1, r = x + whiteWidth;
-    p.fillRect(QRectF(l, 0, 1, whiteHeight), withAlpha(Qt::white, pressed ? 40 : 150));
-    p.fillRect(QRectF(r - 1, 0, 1, whiteHeight), withAlpha(Qt::black, 34));
-    if (left)
-        p.fillRect(QRectF(x + notch, 0, 1, blackHeight), withAlpha(Qt::white, pressed ? 30 : 110));
-    if (right)
-        p.fillRect(QRectF(x + whiteWidth - notch - 1, 0, 1, blackHeight), withAlpha(Qt::black, 28));
-    if (pressed) {
-        const QRectF shade(x, 0, whiteWidth, 26);
-        p.fillRect(shade, vertical(shade, withAlpha(Qt::black, 90), withAlpha(Qt::black, 0)));
-        p.fillRect(QRectF(l, 0, 2, whiteHeight), withAlpha(Qt::black, 40));
+    const double left = key.x + 1, right = key.x + whiteWidth;
+    brush::fadeDown(p, QRectF(left, 0, whiteWidth, 46), withAlpha(Qt::black, 150));
+    for (int i = 0; i < 3; ++i) {
+        const QColor shade = withAlpha(Qt::black, 80 - 27 * i);
+        p.fillRect(QRectF(left + i, 0, 1, whiteHeight), shade);
+        p.fillRect(QRectF(right - 1 - i, 0, 1, whiteHeight), shade);
     }
-    p.fillRect(QRectF(x, faceEnd - 1, whiteWidth, 1), withAlpha(Qt::white, pressed ? 60 : 190));
+}
+
+void paintGlow(QPainter& p, const WhiteShape& key, const QColor& glow)
+{
+    if (glow.alpha() == 0)
+        return;
+    p.save();
+    p.translate(key.x + (whiteWidth + 1) / 2, 80);
+    p.scale(1, 3.2); // the light is as long as the key
+    QRadialGradient light(QPointF(), 13);
+    light.setColorAt(0, glow);
+    light.setColorAt(0.5, withAlpha(glow, glow.alpha() / 2));
+    light.setColorAt(1, withAlpha(glow, 0));
+    p.fillRect(QRectF(-whiteWidth, -40, 2 * whiteWidth, 80), light);
     p.restore();
 }
 
-void paintBlack(QPainter& p, double x, bool pressed, const Look& look)
+void paintEdges(QPainter& p, const WhiteShape& key, int edge)
 {
-    const QRectF cell(x, 0, blackWidth, blackHeight);
-    const QColor body = pressed ? look.blackPressed : look.black;
-    const QColor light = pressed ? look.blackPressedLight : look.blackLight;
-    p.fillRect(cell, palette::gap);
-    const QRectF sides(x + 1, 0, blackWidth - 2, blackHeight - 1);
-    brush::fillRound(p, sides.adjusted(0, -4, 0, 0), 1.5, vertical(sides, body, mix(body, Qt::black, 0.35)));
-    const double end = pressed ? 60 : 54;
-    const QRectF top(x + 2, 0, blackWidth - 4, end);
-    brush::fillRound(p, top.adjusted(0, -4, 0, 0), 1.5,
-                     vertical(top, mix(body, light, 0.35), mix(body, light, 0.8)));
-    p.fillRect(QRectF(x + 2, 0, 1, end - 1), withAlpha(Qt::white, pressed ? 20 : 50));
-    p.fillRect(QRectF(x + 3, end - 1, blackWidth - 6, 1), withAlpha(Qt::white, pressed ? 70 : 110));
-    const QRectF shade(x + 1, 0, blackWidth - 2, pressed ? 20 : 7);
-    p.fillRect(shade, vertical(shade, withAlpha(Qt::black, 110), withAlpha(Qt::black, 0)));
+    const double left = key.x + 1, right = key.x + whiteWidth;
+    p.fillRect(QRectF(left, 0, 1, whiteHeight), withAlpha(Qt::white, edge * 3 / 4));
+    p.fillRect(QRectF(left + 1, 0, 1, whiteHeight), withAlpha(Qt::white, edge / 4));
+    p.fillRect(QRectF(right - 1, 0, 1, whiteHeight), withAlpha(Qt::black, 46));
+    p.fillRect(QRectF(right - 2, 0, 1, whiteHeight), withAlpha(Qt::black, 16));
 }
 
-void paintSheet(QPainter& p, const Look& look)
+void paintWhite(QPainter& p, const WhiteShape& key, const WhiteLook& look)
 {
-    struct White
-    {
-        double x;
-        bool left, right;
-    };
-    constexpr White shapes[] = {{19, false, false}, {53, true, true}, {87, false, true}, {121, true, false}};
-    paintBlack(p, 0, false, look);
-    paintBlack(p, 10, true, look);
-    for (const White& shape : shapes)
-        for (const bool pressed : {false, true})
-            paintWhite(p, shape.x + (pressed ? whiteWidth : 0), shape.left, shape.right, pressed, look);
+    const double faceEnd = key.pressed ? 96 : 91;
+    const QRectF cell(key.x, 0, whiteWidth, whiteHeight), lip(key.x, faceEnd - 2, whiteWidth, 100 - faceEnd);
+    p.fillPath(keyPath(key, key.x, whiteHeight, 0), palette::gap);
+    p.fillPath(keyPath(key, key.x + 1, 98, 2), vertical(lip, look.lip, mix(look.lip, Qt::black, 0.35)));
+    const QPainterPath face = keyPath(key, key.x + 1, faceEnd, 2);
+    p.save();
+    p.setClipPath(face);
+    p.fillPath(face, vertical(cell, look.back, look.front));
+    paintGlow(p, key, look.glow);
+    paintEdges(p, key, look.edge);
+    paintShadowsOfBlacks(p, key);
+    brush::fadeDown(p, QRectF(key.x, 0, whiteWidth, 9), withAlpha(Qt::black, 75)); // the case's shadow
+    if (key.pressed)
+        paintDip(p, key);
+    p.fillRect(QRectF(key.x, faceEnd - 1, whiteWidth, 1), withAlpha(Qt::white, look.edge));
+    p.restore();
 }
 
-void paintShine(QPainter& p, const QColor& color, int alpha)
+void paintBlack(QPainter& p, double x, bool pressed, const BlackLook& look)
 {
-    const QRectF area(0, 0, 33, 43);
-    p.fillRect(area, vertical(area, withAlpha(color, alpha), withAlpha(color, 0)));
-    p.fillRect(QRectF(0, 0, 33, 1), withAlpha(color, alpha));
+    const double end = pressed ? 59 : 54; // of the top; the slope follows
+    const QRectF body(x + 1, 0, blackWidth - 2, blackHeight - 1), top(x + 1, 0, blackWidth - 2, end);
+    const QRectF slope(x + 1, end, blackWidth - 2, blackHeight - 1 - end);
+    p.fillRect(QRectF(x, 0, blackWidth, blackHeight), palette::gap);
+    p.save();
+    p.setClipRect(QRectF(x, 0, blackWidth, blackHeight));
+    brush::fillRound(p, body.adjusted(0, -4, 0, 0), 1.5,
+                     vertical(slope, look.slope, mix(look.slope, Qt::black, 0.55)));
+    brush::fillRound(p, top.adjusted(0, -4, 0, 0), 1.5, vertical(top, look.back, look.front));
+    p.fillRect(QRectF(x + 1, 0, 1, end - 1), withAlpha(Qt::white, look.edge * 2 / 5)); // round shoulders
+    p.fillRect(QRectF(x + 2, 0, 1, end - 1), withAlpha(Qt::white, look.edge / 6));
+    p.fillRect(QRectF(x + 7, 0, 1, end - 1), withAlpha(Qt::black, 40));
+    p.fillRect(QRectF(x + 8, 0, 1, end), withAlpha(Qt::black, 95));
+    p.fillRect(QRectF(x + 2, end - 1, blackWidth - 4, 1), withAlpha(Qt::white, look.edge));
+    brush::fadeDown(p, QRectF(x + 1, 0, blackWidth - 2, pressed ? 40 : 14), withAlpha(Qt::black, 170));
+    p.restore();
+}
+
+void paintSheet(QPainter& p, const KeyLook& look)
+{
+    constexpr WhiteShape shapes[] = {{19, false, false, false},
+                                     {53, true, true, false},
+                                     {87, false, true, false},
+                                     {121, true, false, false}};
+    for (WhiteShape shape : shapes) {
+        paintWhite(p, shape, look.white);
+        shape.x += whiteWidth;
+        shape.pressed = true;
+        paintWhite(p, shape, look.whitePressed);
+    }
+    paintBlack(p, 0, false, look.black);
+    paintBlack(p, 10, true, look.blackPressed);
+}
+
+// The same in every column, so that the light runs on from key to key.
+void paintShine(QPainter& p, const QColor& color)
+{
+    brush::fadeDown(p, QRectF(0, 0, 33, 43), withAlpha(color, 60));
 }
 
 } // namespace
 
 void addKeyPictures(std::vector<Picture>& table)
 {
-    using namespace palette;
-    const QSize size(155, 99);
-    const auto sheet = [&](const char* name, const Look& look) {
-        table.push_back({QStringLiteral("Keyboard/") + QLatin1String(name), size,
-                         [look](QPainter& p) { paintSheet(p, look); }});
-    };
-    sheet("keyboardB.png", plainLook());
-    sheet("keyboardB_IN.png", litLook(blueLight, blue, blueDark));
-    sheet("keyboardB_OUT.png", litLook(amberLight, amber, amberDark));
-    sheet("keyboardB_deactive.png", asleepLook());
-    sheet("keyboardB_LEARN.png", litLook(greenLight, green, greenDark));
-    table.push_back({"INPUTblueShine.png", {33, 43}, [](QPainter& p) { paintShine(p, blue, 64); }});
-    table.push_back({"OUTPUTyellowShine.png", {33, 43}, [](QPainter& p) { paintShine(p, amber, 64); }});
+    for (const KeyLook& look : keyLooks())
+        table.push_back({QStringLiteral("Keyboard/%1.png").arg(look.name), {155, 99}, [look](QPainter& p) {
+                             paintSheet(p, look);
+                         }});
+    table.push_back({"INPUTblueShine.png", {33, 43}, [](QPainter& p) { paintShine(p, palette::blue); }});
+    table.push_back({"OUTPUTyellowShine.png", {33, 43}, [](QPainter& p) { paintShine(p, palette::amber); }});
 }

@@ -8,10 +8,12 @@ const std::vector<Picture>& allPictures()
         addPowerPictures(pictures);
         addHeaderPictures(pictures);
         addBackgrounds(pictures);
+        addOverlays(pictures);
         addBars(pictures);
         addAnchorPictures(pictures);
         addSelectorPictures(pictures);
         addDisplayPictures(pictures);
+        addLogo(pictures);
         addLibraryPictures(pictures);
         addLibraryButtons(pictures);
         addGamePictures(pictures);

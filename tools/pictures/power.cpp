@@ -1,4 +1,4 @@
-// The power button in all its states. It hangs over a black key: its square above, a sleeve down the key.
+// The power button in all its states: a lens in a frame above, and the clip that holds it on a black key.
 
 #include "tools/pictures/brush.h"
 #include "tools/pictures/palette.h"
@@ -10,70 +10,113 @@ using brush::mix;
 using brush::vertical;
 using brush::withAlpha;
 
-const QRectF square(3, 3, 13, 25);
-const QRectF sleeve(4, 18, 11, 64);
+const QRectF square(3, 3, 13, 25); // what the pointer presses
+const QRectF clip(4, 26, 11, 42);  // down the black key
+const QPointF symbol(9.5, 13);     // middle of the ring
+const QRectF lamp(8, 56, 3, 6);    // tells the state where a finger hides the lens
 
-void paintSleeve(QPainter& p, bool on, int alpha)
+void paintClip(QPainter& p, bool on)
 {
-    QLinearGradient metal(sleeve.topLeft(), sleeve.topRight());
-    metal.setColorAt(0, withAlpha(palette::metalEdge, alpha));
-    metal.setColorAt(0.35, withAlpha(palette::metalLight, alpha));
-    metal.setColorAt(1, withAlpha(mix(palette::metalEdge, Qt::black, 0.3), alpha));
-    brush::fillRound(p, sleeve, 2, withAlpha(palette::gap, alpha));
-    brush::fillRound(p, sleeve.adjusted(1, 1, -1, -1), 1.5, metal);
-    const QRectF slot(8, 36, 3, 38);
-    brush::fillRound(p, slot, 1.5, withAlpha(palette::well, alpha));
+    brush::fillRound(p, clip, 3, palette::gap);
+    QLinearGradient steel(clip.topLeft(), clip.topRight());
+    steel.setColorAt(0, palette::metalEdge);
+    steel.setColorAt(0.3, palette::metalLight);
+    steel.setColorAt(0.6, palette::metal);
+    steel.setColorAt(1, mix(palette::metalEdge, Qt::black, 0.25));
+    const QRectF face = clip.adjusted(1, 0, -1, -1);
+    brush::fillRound(p, face, 2, steel);
+    for (const double y : {34.0, 37.0, 40.0, 43.0, 46.0, 49.0}) { // ribs to drag it by
+        p.fillRect(QRectF(6, y, 7, 1), withAlpha(Qt::black, 90));
+        p.fillRect(QRectF(6, y + 1, 7, 1), withAlpha(Qt::white, 80));
+    }
+    p.fillRect(QRectF(6, face.bottom() - 2, 7, 1), withAlpha(Qt::white, 90));
+    brush::fadeDown(p, QRectF(5, 28, 9, 6), withAlpha(Qt::black, 150));
+    brush::fillRound(p, lamp.adjusted(-1, -1, 1, 1), 2, withAlpha(Qt::black, 150));
+    brush::fillRound(p, lamp, 1, on ? palette::emberLight : mix(palette::emberDark, palette::gap, 0.6));
     if (on)
-        brush::fillRound(p, slot.adjusted(0.75, 1, -0.75, -1), 0.75, withAlpha(palette::ember, alpha));
+        brush::halo(p, lamp, 1, 2, withAlpha(palette::ember, 200));
 }
 
 void paintSymbol(QPainter& p, const QColor& color)
 {
     p.setBrush(Qt::NoBrush);
-    p.setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap));
-    const QRectF ring(6, 12, 7, 7);
-    p.drawArc(ring, 125 * 16, 290 * 16);
-    p.drawLine(QPointF(9.5, 10.5), QPointF(9.5, 15));
+    p.setPen(QPen(color, 1.5, Qt::SolidLine, Qt::FlatCap));
+    p.drawArc(QRectF(symbol.x() - 3.5, symbol.y() - 3.5, 7, 7), 125 * 16, 290 * 16);
+    p.fillRect(QRectF(symbol.x() - 0.5, symbol.y() - 5.5, 1, 5), color);
+    p.fillRect(QRectF(symbol.x() - 1, symbol.y() - 5.5, 2, 5), withAlpha(color, color.alpha() / 3));
 }
 
-void paintButton(QPainter& p, bool on, int alpha = 255)
+void paintLens(QPainter& p, bool on)
 {
-    paintSleeve(p, on, alpha);
+    const QColor dark = on ? palette::emberDark : mix(palette::graphite, Qt::black, 0.25);
+    const QColor full = on ? palette::ember : mix(palette::graphite, palette::graphiteLight, 0.5);
+    brush::fillRound(p, square, 3, vertical(square, mix(full, dark, 0.15), mix(full, dark, 0.55)));
+    p.save();
+    QPainterPath pane;
+    pane.addRoundedRect(square, 3, 3);
+    p.setClipPath(pane);
+    if (on) {
+        QRadialGradient light(symbol, 11);
+        light.setColorAt(0, withAlpha(palette::emberLight, 235));
+        light.setColorAt(0.45, withAlpha(palette::emberLight, 90));
+        light.setColorAt(1, withAlpha(palette::emberLight, 0));
+        p.fillRect(square, light);
+    }
+    brush::fadeDown(p, QRectF(4, 4, 11, 7), withAlpha(Qt::white, on ? 120 : 70)); // sky on the pane
+    p.fillRect(QRectF(5, 26, 9, 1), withAlpha(Qt::white, on ? 90 : 45));
+    p.restore();
+}
+
+void paintButton(QPainter& p, bool on)
+{
+    paintClip(p, on);
     if (on)
-        brush::glow(p, square, 3, palette::ember, 120);
-    const QRectF frame = square.adjusted(-1.5, -1.5, 1.5, 1.5);
-    brush::fillRound(p, frame, 4, withAlpha(palette::gap, alpha));
-    const QColor top = on ? mix(palette::ember, palette::emberLight, 0.35) : palette::graphiteLight;
-    const QColor bottom = on ? mix(palette::ember, Qt::black, 0.15) : palette::graphite;
-    brush::fillRound(p, square, 3, vertical(square, withAlpha(top, alpha), withAlpha(bottom, alpha)));
-    brush::strokeRound(p, square, 2.5, withAlpha(Qt::white, on ? 120 : 60));
-    paintSymbol(p, on ? QColor(Qt::white) : withAlpha(palette::metalLight, alpha));
+        brush::halo(p, square.adjusted(-1, -1, 1, 1), 4, 2, withAlpha(palette::ember, 230));
+    const QRectF frame = square.adjusted(-1, -1, 1, 1);
+    brush::fillRound(p, frame.adjusted(0, 0, 0, 1), 4, withAlpha(Qt::white, 70));
+    brush::fillRound(p, frame, 4, palette::gap);
+    paintLens(p, on);
+    paintSymbol(p, on ? QColor(Qt::white) : palette::metal);
 }
 
 void paintPress(QPainter& p)
 {
-    brush::fillRound(p, square, 3, vertical(square, withAlpha(Qt::black, 130), withAlpha(Qt::black, 30)));
+    brush::fillRound(p, square, 3, withAlpha(Qt::black, 45));
+    QPainterPath pane;
+    pane.addRoundedRect(square, 3, 3);
+    p.setClipPath(pane);
+    brush::fadeDown(p, QRectF(3, 3, 13, 14), withAlpha(Qt::black, 190));
+    for (int i = 0; i < 2; ++i)
+        brush::strokeRound(p, square.adjusted(i, i, -i, 6), 3, withAlpha(Qt::black, 110 - 60 * i));
 }
 
 void paintHover(QPainter& p)
 {
-    brush::fillRound(p, square, 3, vertical(square, withAlpha(Qt::white, 70), withAlpha(Qt::white, 10)));
-    brush::strokeRound(p, square, 2.5, withAlpha(Qt::white, 150));
+    brush::fillRound(p, square, 3, vertical(square, withAlpha(Qt::white, 70), withAlpha(Qt::white, 14)));
+    brush::strokeRound(p, square, 3, withAlpha(Qt::white, 170));
 }
 
-void paintDrop(QPainter& p, bool on)
+void paintLifted(QPainter& p, bool on)
 {
-    for (int i = 0; i < 3; ++i)
-        brush::fillRound(p, sleeve.adjusted(-3 + i, 2 + i, 4 - i, 0), 4, withAlpha(Qt::black, 40));
+    for (int i = 0; i < 4; ++i) { // lifted, it throws a wide soft shadow
+        const double spread = 1.0 + i;
+        QPainterPath lens, body;
+        lens.addRoundedRect(square.adjusted(-spread, 3, spread, 2 + spread), 3 + spread, 3 + spread);
+        body.addRoundedRect(clip.adjusted(-spread, 4, spread, 5 + spread), 3 + spread, 3 + spread);
+        p.fillPath(lens.united(body), withAlpha(Qt::black, 36));
+    }
     paintButton(p, on);
-    brush::strokeRound(p, square.adjusted(-2, -2, 2, 2), 4, withAlpha(Qt::white, 130));
+    brush::strokeRound(p, square.adjusted(-1, -1, 1, 1), 4, withAlpha(Qt::white, 190));
 }
 
-void paintSwitchTarget(QPainter& p)
+// Held over a key that can take it: the key that lies below answers in the colour of active presets.
+void paintOverTarget(QPainter& p)
 {
-    brush::glow(p, sleeve.adjusted(-1, 0, 1, -2), 3, palette::presetActive, 170);
+    brush::halo(p, clip, 3, 4, palette::presetActive);
+    brush::halo(p, square.adjusted(-1, -1, 1, 1), 4, 3, palette::presetActive);
     paintButton(p, true);
-    brush::strokeRound(p, square.adjusted(-2, -2, 2, 2), 4, palette::presetActive);
+    brush::strokeRound(p, square.adjusted(-1, -1, 1, 1), 4, palette::presetActive);
+    brush::fillRound(p, lamp, 1, palette::presetActive);
 }
 
 } // namespace
@@ -88,7 +131,7 @@ void addPowerPictures(std::vector<Picture>& table)
     add("On", [](QPainter& p) { paintButton(p, true); });
     add("Press", paintPress);
     add("Hover", paintHover);
-    add("Off_Drop", [](QPainter& p) { paintDrop(p, false); });
-    add("On_Drop", [](QPainter& p) { paintDrop(p, true); });
-    add("On_Switch", paintSwitchTarget);
+    add("Off_Drop", [](QPainter& p) { paintLifted(p, false); });
+    add("On_Drop", [](QPainter& p) { paintLifted(p, true); });
+    add("On_Switch", paintOverTarget);
 }

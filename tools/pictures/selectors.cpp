@@ -15,32 +15,52 @@ using brush::withAlpha;
 constexpr int whiteCount = 7, whiteWidth = 17, whiteHeight = 60, blackWidth = 10, blackHeight = 38;
 constexpr int blackLefts[] = {12, 29, 63, 80, 97};
 constexpr char letters[] = "CDEFGAB";
-enum row { row_idle, row_lit_white, row_lit_black };
 
-void paintWhites(QPainter& p, const QColor& top, const QColor& bottom)
+/// How a row of keys takes the light.
+struct RowLook
 {
+    QColor top, bottom;     ///< of the white faces
+    QColor black, blackEnd; ///< of the black tops
+    int edge;               ///< what the edges catch, 0 to 255
+};
+
+void paintWhites(QPainter& p, const RowLook& look)
+{
+    constexpr double faceEnd = 56;
     for (int i = 0; i < whiteCount; ++i) {
-        const QRectF key(i * whiteWidth, 0, whiteWidth - 1, whiteHeight);
+        const QRectF key(i * whiteWidth, 0, whiteWidth - 1, whiteHeight); // the gap is the last column
+        const QRectF lip(key.left(), faceEnd - 2, key.width(), 6);
+        const QColor front = mix(look.bottom, palette::graphite, 0.3);
         p.save();
         p.setClipRect(key);
-        brush::fillRound(p, key.adjusted(0, -4, 0, 0), 2, mix(bottom, palette::graphite, 0.4));
-        const QRectF face = key.adjusted(0, -4, 0, -3);
-        brush::fillRound(p, face, 2, vertical(key, top, bottom));
-        p.fillRect(QRectF(key.left(), 0, 1, whiteHeight - 4), withAlpha(Qt::white, 90));
-        p.fillRect(QRectF(key.right() - 1, 0, 1, whiteHeight - 4), withAlpha(Qt::black, 30));
+        brush::fillRound(p, key.adjusted(0, -4, 0, -1), 2, vertical(lip, front, mix(front, Qt::black, 0.3)));
+        brush::fillRound(p, QRectF(key.left(), -4, key.width(), faceEnd + 4), 2,
+                         vertical(key, look.top, look.bottom));
+        p.fillRect(QRectF(key.left(), 0, 1, faceEnd - 1), withAlpha(Qt::white, look.edge * 2 / 3));
+        p.fillRect(QRectF(key.right() - 1, 0, 1, faceEnd - 1), withAlpha(Qt::black, 36));
+        p.fillRect(QRectF(key.left() + 1, faceEnd - 1, key.width() - 2, 1), withAlpha(Qt::white, look.edge));
         p.restore();
     }
+    for (const int left : blackLefts) // black keys shade what lies before them
+        brush::fadeDown(p, QRectF(left - 1, blackHeight, blackWidth + 2, 4), withAlpha(Qt::black, 70));
 }
 
-void paintBlacks(QPainter& p, const QColor& body, const QColor& light)
+void paintBlacks(QPainter& p, const RowLook& look)
 {
+    constexpr double end = blackHeight - 6;
     for (const int left : blackLefts) {
-        const QRectF key(left, 0, blackWidth, blackHeight);
+        const QRectF key(left, 0, blackWidth, blackHeight), top(left + 1, 0, blackWidth - 2, end);
+        const QRectF slope(left + 1, end, blackWidth - 2, blackHeight - 1 - end);
         p.fillRect(key, palette::gap);
-        const QRectF face(left + 1.5, 0, blackWidth - 3, blackHeight - 6);
-        p.fillRect(key.adjusted(1, 0, -1, -1), vertical(key, body, mix(body, Qt::black, 0.3)));
-        brush::fillRound(p, face.adjusted(0, -3, 0, 0), 1.5, vertical(face, mix(body, light, 0.4), light));
-        p.fillRect(QRectF(left + 2, face.bottom() - 1, blackWidth - 4, 1), withAlpha(Qt::white, 110));
+        p.save();
+        p.setClipRect(key);
+        const QColor front = mix(look.black, look.blackEnd, 0.4);
+        p.fillRect(slope, vertical(slope, front, mix(front, Qt::black, 0.45)));
+        brush::fillRound(p, top.adjusted(0, -4, 0, 0), 1.5, vertical(top, look.black, look.blackEnd));
+        p.fillRect(QRectF(left + 1, 0, 1, end - 1), withAlpha(Qt::white, look.edge / 4));
+        p.fillRect(QRectF(left + 8, 0, 1, end), withAlpha(Qt::black, 90));
+        p.fillRect(QRectF(left + 2, end - 1, blackWidth - 4, 1), withAlpha(Qt::white, look.edge * 2 / 3));
+        p.restore();
     }
 }
 
@@ -61,107 +81,108 @@ void paintLetters(QPainter& p, const QColor& color)
 
 void paintShadeUnderCase(QPainter& p)
 {
-    const QRectF shade(0, 0, whiteCount * whiteWidth, 6);
-    p.fillRect(shade, vertical(shade, withAlpha(Qt::black, 80), withAlpha(Qt::black, 0)));
+    brush::fadeDown(p, QRectF(0, 0, whiteCount * whiteWidth, 8), withAlpha(Qt::black, 130));
 }
 
-void paintIdle(QPainter& p, bool lettered)
+RowLook idleLook()
+{
+    using namespace palette;
+    return {mix(ivory, ivoryShade, 0.9), mix(ivory, ivoryShade, 0.15), graphite,
+            mix(graphite, graphiteLight, 0.65), 180};
+}
+
+RowLook sleepingLook()
+{
+    using namespace palette;
+    return {mix(wellLight, metalEdge, 0.55), mix(wellLight, metalEdge, 0.85), well, mix(well, wellLight, 0.9),
+            45};
+}
+
+RowLook litLook(const QColor& full, const QColor& light)
+{
+    return {full, mix(light, Qt::white, 0.15), mix(full, Qt::black, 0.35), light, 210};
+}
+
+void paintIdle(QPainter& p, const RowLook& look)
 {
     p.fillRect(QRectF(0, 0, whiteCount * whiteWidth, whiteHeight), palette::gap);
-    paintWhites(p, mix(palette::ivory, palette::ivoryShade, 0.8),
-                mix(palette::ivory, palette::ivoryShade, 0.3));
-    paintBlacks(p, palette::graphite, palette::graphiteLight);
+    paintWhites(p, look);
+    paintBlacks(p, look);
     paintShadeUnderCase(p);
-    if (lettered)
-        paintLetters(p, palette::ink);
 }
 
-void paintLit(QPainter& p, row kind, bool lettered, const QColor& full, const QColor& light)
+void paintSelector(QPainter& p, bool lettered, const RowLook& lit, const QColor& letterOnLit)
 {
-    if (kind == row_lit_black) {
-        paintBlacks(p, mix(full, Qt::black, 0.25), light);
-        p.setCompositionMode(QPainter::CompositionMode_DestinationIn); // only the keys themselves
-        QPainterPath keys;
-        for (const int left : blackLefts)
-            keys.addRect(left, 0, blackWidth, blackHeight);
-        p.setClipRect(QRectF(0, 0, whiteCount * whiteWidth, whiteHeight));
-        p.fillPath(keys, Qt::black);
-        p.setCompositionMode(QPainter::CompositionMode_SourceOver);
-        return;
-    }
-    paintWhites(p, full, light);
+    paintIdle(p, idleLook());
     if (lettered)
-        paintLetters(p, mix(full, Qt::black, 0.65));
+        paintLetters(p, palette::ink);
+    p.translate(0, whiteHeight);
+    paintWhites(p, lit);
+    if (lettered)
+        paintLetters(p, letterOnLit);
     clearBlacks(p);
+    p.translate(0, whiteHeight);
+    paintBlacks(p, lit);
 }
 
 void paintSelectorSheet(QPainter& p)
 {
-    struct Colors
-    {
-        QColor full, light;
-    };
-    const Colors rows[] = {
-        {palette::amber, palette::amberLight},
-        {mix(palette::presetIdle, palette::blue, 0.35), mix(palette::blueLight, Qt::white, 0.1)}};
-    for (int selector = 0; selector < 2; ++selector) {
-        const Colors& colors = rows[selector];
-        for (const row kind : {row_idle, row_lit_white, row_lit_black}) {
-            p.save();
-            p.translate(0, (selector * 3 + kind) * whiteHeight);
-            p.setClipRect(QRectF(0, 0, whiteCount * whiteWidth, whiteHeight));
-            if (kind == row_idle)
-                paintIdle(p, selector == 0);
-            else
-                paintLit(p, kind, selector == 0, colors.full, colors.light);
-            p.restore();
-        }
-    }
+    using namespace palette;
+    p.save();
+    paintSelector(p, true, litLook(amber, amberLight), mix(amberDark, Qt::black, 0.25));
+    p.restore();
+    p.translate(0, 3 * whiteHeight);
+    paintSelector(p, false, litLook(mix(presetIdle, blueDark, 0.12), mix(blueLight, presetIdle, 0.12)),
+                  blueDark);
 }
 
+// A little window of the display, just large enough for two digits.
 void paintSquare(QPainter& p)
 {
-    const QRectF plate(0, 0, 15, 10);
-    brush::fillRound(p, plate, 2, vertical(plate, mix(palette::display, Qt::white, 0.35), palette::display));
-    brush::strokeRound(p, plate, 2, withAlpha(palette::ink, 150));
+    const QRectF frame(0, 0, 15, 10), pane(1, 1, 13, 8);
+    brush::fillRound(p, frame, 2, vertical(frame, palette::ink, mix(palette::ink, palette::metalDark, 0.4)));
+    p.fillRect(pane, mix(palette::display, Qt::white, 0.35));
+    p.fillRect(QRectF(1, 1, 13, 1), withAlpha(palette::ink, 46));
 }
 
 void paintTrack(QPainter& p)
 {
-    const QRectF track(1, 1, 38, 13);
-    brush::recess(p, track, 6.5, palette::well, palette::wellLight);
+    brush::recess(p, QRectF(1, 1, 38, 13), 6.5, palette::well, palette::wellLight);
 }
 
-void paintKnob(QPainter& p, double x, const QColor& tint)
+void paintKnob(QPainter& p, double x, const QColor& top, const QColor& bottom)
 {
-    const QRectF knob(x, 2, 15, 11);
-    brush::fillRound(p, knob.translated(0, 1), 5.5, withAlpha(Qt::black, 120));
-    brush::fillRound(p, knob, 5.5,
-                     vertical(knob, mix(palette::metalLight, tint, 0.3), mix(palette::metalDark, tint, 0.3)));
-    brush::strokeRound(p, knob, 5, withAlpha(Qt::white, 90));
-    for (const double line : {5.5, 7.5, 9.5})
-        p.fillRect(QRectF(x + line - 0.5, 5, 1, 5), withAlpha(Qt::black, 90));
+    const QRectF knob(x, 2, 16, 11);
+    brush::halo(p, knob, 5.5, 2, withAlpha(Qt::black, 200));
+    brush::fillRound(p, knob, 5.5, vertical(knob, top, bottom));
+    brush::strokeRound(p, knob, 5.5, withAlpha(Qt::black, 80));
+    p.fillRect(QRectF(x + 4, 2, 8, 1), mix(top, Qt::white, 0.4));
+    for (const int line : {5, 7, 9}) {
+        p.fillRect(QRectF(x + line, 5, 1, 5), withAlpha(Qt::black, 100));
+        p.fillRect(QRectF(x + line + 1, 5, 1, 5), withAlpha(Qt::white, 90));
+    }
 }
 
 void paintSwitchOff(QPainter& p)
 {
     paintTrack(p);
-    paintKnob(p, 2, palette::metal);
+    paintKnob(p, 2, palette::metalLight, palette::metalDark);
 }
 
 void paintSwitchOn(QPainter& p, const QColor& light)
 {
     paintTrack(p);
     const QRectF lit(2, 2, 36, 11);
-    brush::fillRound(p, lit, 5.5, vertical(lit, mix(light, Qt::black, 0.35), light));
-    paintKnob(p, 23, light);
+    brush::fillRound(p, lit, 5.5, vertical(lit, mix(light, Qt::black, 0.30), mix(light, Qt::white, 0.2)));
+    brush::fadeDown(p, QRectF(6, 2, 28, 4), withAlpha(Qt::black, 110));
+    paintKnob(p, 22, mix(palette::metalLight, Qt::white, 0.4), palette::metal);
 }
 
 void paintSwitchNeutral(QPainter& p)
 {
     paintTrack(p);
-    paintKnob(p, 12.5, palette::metalEdge);
-    brush::fillRound(p, QRectF(1, 1, 38, 13), 6.5, withAlpha(palette::well, 90));
+    paintKnob(p, 12, mix(palette::metalDark, palette::metalEdge, 0.5), palette::metalEdge);
+    brush::fillRound(p, QRectF(1, 1, 38, 13), 6.5, withAlpha(palette::well, 80));
 }
 
 void paintOpenButton(QPainter& p, bool active)
@@ -172,8 +193,11 @@ void paintOpenButton(QPainter& p, bool active)
                      active ? vertical(plate, palette::metalDark, palette::metal)
                             : vertical(plate, palette::metalLight, palette::metalDark));
     brush::strokeRound(p, plate, 4, withAlpha(active ? palette::blue : QColor(Qt::black), 130));
-    brush::strokeRound(p, QRectF(6, 8, 8, 8), 1, palette::well);
-    brush::strokeRound(p, QRectF(9, 5, 8, 8), 1, palette::well);
+    const QRectF back(9, 5, 8, 8), front(5, 9, 8, 8); // one window behind another
+    brush::strokeRound(p, back, 1, palette::well);
+    p.fillRect(front, palette::metal);
+    brush::strokeRound(p, front, 1, palette::well);
+    p.fillRect(QRectF(front.left() + 1, front.top() + 1, 6, 1), palette::well);
 }
 
 } // namespace
@@ -182,11 +206,7 @@ void paintSleepingOctave(QPainter& painter, const QPointF& topLeft)
 {
     painter.save();
     painter.translate(topLeft);
-    painter.fillRect(QRectF(0, 0, whiteCount * whiteWidth, whiteHeight), palette::gap);
-    paintWhites(painter, mix(palette::wellLight, palette::metalEdge, 0.6),
-                mix(palette::wellLight, palette::metalEdge, 0.8));
-    paintBlacks(painter, palette::well, palette::wellLight);
-    paintShadeUnderCase(painter);
+    paintIdle(painter, sleepingLook());
     painter.restore();
 }
 

@@ -1,0 +1,89 @@
+// The light and shadow of the case above the keys: one sheet while it sleeps, one while it is awake.
+
+#include "tools/pictures/brush.h"
+#include "tools/pictures/palette.h"
+#include "tools/pictures/picture_table.h"
+#include "tools/pictures/stage.h"
+
+namespace {
+
+using brush::vertical;
+using brush::withAlpha;
+
+const QRectF outRod(27, 43, 907, 3), inRod(29, 298, 903, 3);
+
+// The case stands over the backs of the output keys; those of the input keys carry their shade themselves,
+// since flags stand before them.
+void paintCaseShadow(QPainter& p, int alpha)
+{
+    const double width = stage::wellRight - stage::wellLeft;
+    brush::fadeDown(p, QRectF(stage::wellLeft, stage::outKeys.top(), width, 9), withAlpha(Qt::black, alpha));
+}
+
+void paintRodLight(QPainter& p, const QRectF& rod, const QColor& color, const QColor& core)
+{
+    p.fillRect(QRectF(rod.left() + 1, rod.top() + 1, rod.width() - 2, 1), withAlpha(core, 215));
+    p.fillRect(QRectF(rod.left() + 1, rod.top(), rod.width() - 2, 1), withAlpha(color, 110));
+    p.fillRect(QRectF(rod.left() + 1, rod.top() + 2, rod.width() - 2, 1), withAlpha(color, 110));
+}
+
+void spill(QPainter& p, double left, double right, double top, double reach, const QColor& color)
+{
+    brush::fadeDown(p, QRectF(left, top, right - left, reach), color);
+}
+
+void paintLightOfOutput(QPainter& p)
+{
+    paintRodLight(p, outRod, palette::amber, palette::amberLight);
+    brush::fadeUp(p, QRectF(27, 37, 907, 6), withAlpha(palette::amber, 90));
+    spill(p, stage::wellLeft, stage::wellRight, 46, 18, withAlpha(palette::amber, 84));
+}
+
+// Flags and power button stand before the keys' backs: what lies over them there begins without an edge.
+void paintSoftBand(QPainter& p, double top, double peak, double bottom, const QColor& color)
+{
+    const QRectF band(stage::wellLeft, top, stage::wellRight - stage::wellLeft, bottom - top);
+    QLinearGradient light = vertical(band, withAlpha(color, 0), withAlpha(color, 0));
+    light.setColorAt((peak - top) / (bottom - top), color);
+    p.fillRect(band, light);
+}
+
+void paintLightOfInput(QPainter& p)
+{
+    paintRodLight(p, inRod, palette::blue, palette::blueLight);
+    spill(p, 28, 933, 301, 16, withAlpha(palette::blue, 70));
+    paintSoftBand(p, 348, 358, 378, withAlpha(palette::blue, 46));
+}
+
+void paintAwake(QPainter& p)
+{
+    paintCaseShadow(p, 50);
+    paintLightOfOutput(p);
+    paintLightOfInput(p);
+    brush::halo(p, stage::display.adjusted(-1, -1, 1, 1), 1, 5, QColor(250, 252, 240, 150));
+    brush::halo(p, stage::tonicOctave, 1, 3, withAlpha(palette::amber, 150));
+    brush::halo(p, stage::scaleOctave, 1, 3, withAlpha(palette::presetIdle, 150));
+}
+
+// Dusk lies on the keys, and the light on their backs goes out.
+void paintAsleep(QPainter& p)
+{
+    paintCaseShadow(p, 90);
+    p.fillRect(stage::outKeys, withAlpha(palette::well, 24));
+    brush::fadeDown(p, QRectF(stage::outKeys.topLeft(), QSizeF(stage::outKeys.width(), 46)),
+                    withAlpha(palette::well, 70));
+    QLinearGradient dusk = vertical(stage::inKeys, withAlpha(palette::well, 0), withAlpha(palette::well, 24));
+    dusk.setColorAt(0.35, withAlpha(palette::well, 44));
+    p.fillRect(stage::inKeys, dusk);
+    p.fillRect(outRod, withAlpha(Qt::black, 70));
+    p.fillRect(inRod, withAlpha(Qt::black, 70));
+}
+
+} // namespace
+
+void addOverlays(std::vector<Picture>& table)
+{
+    const QSize size(stage::width, stage::height);
+    table.push_back({"Background/BG_t_on-CM.png", size, paintAwake});
+    table.push_back({"Background/BG_t_off.png", size, paintAsleep});
+}
