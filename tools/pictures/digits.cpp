@@ -73,21 +73,26 @@ bool isInkInQuarter(const Glyph& glyph, int x, int y, int right, int down)
     return bend ? beside : isInk(glyph, x, y);
 }
 
+void paintQuarters(QPainter& p, const Glyph& glyph, int x, int y, const QColor& color)
+{
+    for (const int right : {-1, 1})
+        for (const int down : {-1, 1})
+            if (isInkInQuarter(glyph, x, y, right, down))
+                p.fillRect(
+                    QRectF(glyph.column + x + (right > 0 ? 0.5 : 0), y + (down > 0 ? 0.5 : 0), 0.5, 0.5),
+                    color);
+}
+
 void paintGlyph(QPainter& p, const Glyph& glyph, const QColor& color)
 {
     const bool dense = p.worldTransform().m11() > 1;
     const int width = static_cast<int>(std::strlen(glyph.rows[0]));
     for (int y = 0; y < 8; ++y)
-        for (int x = 0; x < width; ++x) {
-            if (!dense && isInk(glyph, x, y))
+        for (int x = 0; x < width; ++x)
+            if (dense)
+                paintQuarters(p, glyph, x, y, color);
+            else if (isInk(glyph, x, y))
                 p.fillRect(glyph.column + x, y, 1, 1, color);
-            for (const int right : {-1, 1})
-                for (const int down : {-1, 1})
-                    if (dense && isInkInQuarter(glyph, x, y, right, down))
-                        p.fillRect(QRectF(glyph.column + x + (right > 0 ? 0.5 : 0), y + (down > 0 ? 0.5 : 0),
-                                          0.5, 0.5),
-                                   color);
-        }
 }
 
 void paintDigits(QPainter& p, const QColor& color, const Glyphs& instead)
