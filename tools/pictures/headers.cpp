@@ -41,16 +41,6 @@ bool isLit(Look look)
     return look == Look::active || look == Look::shadow;
 }
 
-void paintShadow(QPainter& p, const Flag& f)
-{
-    for (int i = 0; i < 3; ++i) {
-        brush::fillRound(
-            p, f.head.adjusted(i, 2 + i, 0, 1 + i / 2.0).intersected(QRectF({0, 0}, QSizeF(f.size))), 4,
-            withAlpha(Qt::black, 60));
-        brush::fillRound(p, f.badge.adjusted(i - 1, 2 + i, 1, 3), 4, withAlpha(Qt::black, 50));
-    }
-}
-
 QLinearGradient steel(double left, double right)
 {
     QLinearGradient metal(left, 0, right, 0);
@@ -60,29 +50,63 @@ QLinearGradient steel(double left, double right)
     return metal;
 }
 
-bool flies(const Flag& f)
-{
-    return std::abs(f.badge.center().x() - f.head.center().x()) > f.head.width() / 2 - 2;
-}
-
 void paintPole(QPainter& p, const Flag& f)
 {
     const double x = f.badge.center().x();
-    const double top = flies(f) ? f.head.top() : f.head.bottom() - 2;
-    const QRectF pole(x - 2, top, 4, f.tip - top);
+    const QRectF pole(x - 2, f.head.bottom() - 2, 4, f.tip - f.head.bottom() + 2);
     brush::fillRound(p, pole.adjusted(-1, 0, 1, 1), 1.5, withAlpha(palette::gap, 200));
-    brush::fillRound(p, pole, 1.5, steel(pole.left(), pole.right()));
-    if (!flies(f)) // the pole stands behind the head: a clamp below it says whose it is
-    {
-        const double inward = qBound(-9.0, f.head.center().x() - x, 9.0);
-        const QRectF clamp = QRectF(x, f.head.bottom() - 1, inward, 3).normalized().adjusted(-3, 0, 3, 0);
-        brush::fillRound(p, clamp.adjusted(-1, 0, 1, 1), 1.5, withAlpha(palette::gap, 200));
-        brush::fillRound(p, clamp, 1.5, vertical(clamp, palette::metalLight, palette::metalEdge));
-    }
+    p.fillRect(pole, steel(pole.left(), pole.right()));
+    // A clamp says whose pole it is where it passes at the edge of its head.
+    const double inward = qBound(-9.0, f.head.center().x() - x, 9.0);
+    const QRectF clamp = QRectF(x, f.head.bottom() - 1, inward, 3).normalized().adjusted(-3, 0, 3, 0);
+    brush::fillRound(p, clamp.adjusted(-1, 0, 1, 1), 1.5, withAlpha(palette::gap, 200));
+    brush::fillRound(p, clamp, 1.5, vertical(clamp, palette::metalLight, palette::metalEdge));
     // The foot clasps the key.
     const QRectF foot(x - 4, f.tip - 2, 8, 4);
     brush::fillRound(p, foot.adjusted(-1, -1, 1, 1), 2.5, withAlpha(palette::gap, 220));
     brush::fillRound(p, foot, 2, steel(foot.left(), foot.right()));
+}
+
+/// -1 if the cloth flies to the left of its pole, 1 if to the right, 0 if it hangs before it.
+int flight(const Flag& f)
+{
+    const double away = f.head.center().x() - f.badge.center().x();
+    return std::abs(away) < 2 ? 0 : (away > 0 ? 1 : -1);
+}
+
+/// The outline of the cloth, `inset` pixels inside its edge; its free end is cut like a pennant's.
+QPainterPath cloth(const Flag& f, double inset)
+{
+    const QRectF area = f.head.adjusted(inset, inset, -inset, -inset);
+    QPainterPath outline, cut;
+    outline.addRoundedRect(area, 4 - inset, 4 - inset);
+    const int side = flight(f);
+    if (side == 0)
+        return outline;
+    const double end = side > 0 ? area.right() : area.left(), deep = 5, half = 7;
+    cut.addPolygon(QPolygonF({{end + side, area.center().y() - half},
+                              {end - side * deep, area.center().y()},
+                              {end + side, area.center().y() + half}}));
+    return outline.subtracted(cut);
+}
+
+void paintCloth(QPainter& p, const Flag& f, const QColor& rim)
+{
+    p.fillPath(cloth(f, 0), palette::gap);
+    p.fillPath(cloth(f, 1), vertical(f.head, palette::graphiteLight, palette::graphite));
+    p.strokePath(cloth(f, 1), QPen(rim, 1));
+    const double x = f.head.center().x() - flight(f) * (f.head.width() / 2 - 4);
+    for (const double y : {f.head.top() + 4, f.head.bottom() - 4}) // rivets on the pole's side
+        if (flight(f) != 0)
+            brush::fillRound(p, {x - 1, y - 1, 2, 2}, 1, withAlpha(palette::metalLight, 200));
+}
+
+void paintShadow(QPainter& p, const Flag& f)
+{
+    for (int i = 0; i < 3; ++i) {
+        p.fillPath(cloth(f, 0).translated(i / 2.0, 2 + i), withAlpha(Qt::black, 60));
+        brush::fillRound(p, f.badge.adjusted(i - 1, 2 + i, 1, 3), 4, withAlpha(Qt::black, 50));
+    }
 }
 
 void paintPlate(QPainter& p, const QRectF& area, double radius, const QColor& rim)
@@ -94,9 +118,9 @@ void paintPlate(QPainter& p, const QRectF& area, double radius, const QColor& ri
 }
 
 /// Out, the lamp is a ring around dark glass; lit, it is full. So the two differ without their colours.
-void paintLamp(QPainter& p, const QRectF& head, Look look)
+void paintLamp(QPainter& p, const Flag& f, Look look)
 {
-    const QRectF lens = head.adjusted(5, 8, -5, -8);
+    const QRectF lens = f.head.adjusted(7, 8, -7, -8).translated(-flight(f), 0);
     const QColor light = isLit(look) ? palette::presetActive : palette::presetIdle;
     brush::fillRound(p, lens.adjusted(-1, -1, 1, 1), 5, palette::gap);
     if (look == Look::idle) {
@@ -138,8 +162,8 @@ void paintFlag(QPainter& p, const Flag& f, Look look)
     if (look == Look::shadow)
         paintShadow(p, f);
     paintPole(p, f);
-    paintPlate(p, f.head, 4, rimOf(look));
-    paintLamp(p, f.head, look);
+    paintCloth(p, f, rimOf(look));
+    paintLamp(p, f, look);
     if (look == Look::target)
         paintArrows(p, f.head);
     paintPlate(p, f.badge, 3, rimOf(look));
@@ -149,10 +173,11 @@ void paintFlag(QPainter& p, const Flag& f, Look look)
 /// Lies over any of the looks while the menu is open.
 void paintMenuMark(QPainter& p, const Flag& f)
 {
-    for (const QRectF& part : {f.head, f.badge}) {
-        brush::fillRound(p, part.adjusted(1, 1, -1, -1), 3, withAlpha(Qt::white, 50));
-        brush::strokeRound(p, part.adjusted(0.5, 0.5, -0.5, -0.5), 3.5, withAlpha(Qt::white, 240));
-    }
+    p.fillPath(cloth(f, 1), withAlpha(Qt::white, 50));
+    p.strokePath(cloth(f, 1), QPen(withAlpha(Qt::white, 240), 1));
+    const QRectF badge = f.badge.adjusted(0.5, 0.5, -0.5, -0.5);
+    brush::fillRound(p, badge.adjusted(0.5, 0.5, -0.5, -0.5), 3, withAlpha(Qt::white, 50));
+    brush::strokeRound(p, badge, 3.5, withAlpha(Qt::white, 240));
     p.setPen(Qt::NoPen);
     for (const double x : {-6.0, 0.0, 6.0}) {
         p.setBrush(Qt::black);
