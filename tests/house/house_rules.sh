@@ -64,7 +64,7 @@ both() { find "$@" -name '*.cpp' -o -name '*.h'; }
         grep -nE 'QPixmap\(QStringLiteral|QPixmap\(":|\.load\(":' $(both $rooms)
     )"
     rule "left to do by their own words:" "$(
-        grep -rnE '\b(TO''DO|FIX''ME|XX''X)\b' $rooms tools tests benchmarks scripts docs
+        grep -rnIE '\b(TO''DO|FIX''ME|XX''X)\b' $rooms tools tests benchmarks scripts docs
     )"
 }
 exit $breaches
