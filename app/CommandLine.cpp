@@ -42,7 +42,8 @@ void addOptions(QCommandLineParser& parser)
 {
     const auto tr = [](const char* text) { return QCoreApplication::translate("CommandLine", text); };
     parser.setApplicationDescription(tr("Plays any tonic and scale on the white keys of a MIDI keyboard."));
-    parser.addHelpOption();
+    // Not addHelpOption(): it would list a --help-all for options that the program does not have.
+    parser.addOption({{"h", "help"}, tr("Print this help and end.")});
     parser.addVersionOption();
     parser.addOptions(options());
     parser.addPositionalArgument("qv_simple_logging", tr("Write log lines without time and number."),

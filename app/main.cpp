@@ -5,6 +5,7 @@
 #include "app/tell.h"
 #include "app/vendor.h"
 #include "app/version.h"
+#include "app/window_icon.h"
 #include "logging/QtMessages.h"
 #include "logging/categories.h"
 #include "logging/log_file.h"
@@ -87,6 +88,7 @@ int runStage(CommandLine& wanted, int argc, char** argv)
     // no.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     nameProgram();
+    nameDesktopEntry();
     std::optional<QtMessages> messages;
     if (wanted.logLevel) {
         initializeLogFile(*wanted.logLevel);
@@ -106,8 +108,10 @@ int runStage(CommandLine& wanted, int argc, char** argv)
     if (!error.isEmpty())
         return fail(error);
     start::setSelectors(wanted, *mainWnd);
-    if (!wanted.headless)
+    if (!wanted.headless) {
         mainWnd->show();
+        giveIcon(*mainWnd->windowHandle());
+    }
     // The desktop that ends its session may not wait for the end of the event loop.
     QObject::connect(&application, &QGuiApplication::commitDataRequest, mainWnd,
                      [&wanted] { report(start::writeSession(wanted, *mainWnd)); });

@@ -1,6 +1,7 @@
 // The committed pictures against the painter that draws them, and against what the stage needs of them.
 
 #include "tools/pictures/gif_writer.h"
+#include "tools/pictures/icons.h"
 #include "tools/pictures/picture_table.h"
 
 #include <QFile>
@@ -127,6 +128,8 @@ void TestPictures::everyResourceIsPaintedOrText()
         QVERIFY2(listed.removeOne(picture.path), qPrintable(picture.path));
         QVERIFY2(listed.removeOne(denseName(picture.path)), qPrintable(picture.path));
     }
+    for (const int size : iconSizes)
+        QVERIFY2(listed.removeOne(iconPath(size)), qPrintable(iconPath(size)));
     for (const QString& rest : qAsConst(listed))
         QVERIFY2(rest.endsWith(QStringLiteral(".qss")) || rest.endsWith(QStringLiteral(".html")) ||
                      rest.endsWith(QStringLiteral(".txt")),

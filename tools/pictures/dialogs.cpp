@@ -24,47 +24,52 @@ QRectF fieldOf(const QSizeF& panel)
     return plateOf(panel).adjusted(14, 13, -14, -14);
 }
 
-void paintPlateShadow(QPainter& p, const QRectF& plate)
-{
-    for (int i = 4; i >= 1; --i)
-        brush::fillRound(p, plate.adjusted(-i, 2 - i, i, 1.0 + i), 7.0 + i, withAlpha(Qt::black, 30));
-}
-
 void paintPlate(QPainter& p, const QRectF& plate)
 {
-    brush::fillRound(p, plate, 7,
-                     vertical(plate, mix(palette::metal, palette::metalLight, 0.85),
-                              mix(palette::metal, palette::metalDark, 0.45)));
+    brush::halo(p, plate.translated(0, 1.5), 7, 4.5, withAlpha(Qt::black, 235));
+    brush::fillRound(p, plate, 7, palette::well);
+    const QRectF face = plate.adjusted(1, 1, -1, -1);
     p.save();
-    QPainterPath clip;
-    clip.addRoundedRect(plate, 7, 7);
-    p.setClipPath(clip);
-    for (int y = 0; y < static_cast<int>(plate.height()); y += 2) // brushed along its length
-        p.fillRect(QRectF(plate.left(), plate.top() + y, plate.width(), 1),
-                   withAlpha(Qt::white, y % 6 == 0 ? 16 : 8));
+    QPainterPath outline;
+    outline.addRoundedRect(face, 6, 6);
+    p.setClipPath(outline);
+    p.fillRect(face, vertical(face, mix(palette::metal, palette::metalLight, 0.85),
+                              mix(palette::metal, palette::metalDark, 0.55)));
+    brush::brushed(p, face, 9);
+    brush::fadeDown(p, QRectF(face.topLeft(), QSizeF(face.width(), 3)), withAlpha(Qt::white, 190));
+    brush::fadeUp(p, QRectF(face.bottomLeft() - QPointF(0, 4), QSizeF(face.width(), 4)),
+                  withAlpha(Qt::black, 110));
+    p.fillRect(QRectF(face.left(), face.top(), 1, face.height()), withAlpha(Qt::white, 110));
+    p.fillRect(QRectF(face.right() - 1, face.top(), 1, face.height()), withAlpha(Qt::black, 70));
     p.restore();
-    brush::strokeRound(p, plate.adjusted(1, 1, -1, -1), 6, withAlpha(Qt::white, 110));
-    brush::strokeRound(p, plate, 7, withAlpha(palette::well, 190));
 }
 
+// A display like the one on the case: its pane lies deep, and one soft band of sky lies on it.
 void paintField(QPainter& p, const QRectF& field)
 {
-    brush::recess(p, field.adjusted(-3, -3, 3, 3), 5, palette::well, palette::wellLight);
-    brush::fillRound(p, field, 3, mix(palette::display, Qt::white, 0.22));
-    for (int i = 0; i < 4; ++i) // the pane lies behind the frame
-        p.fillRect(QRectF(field.left(), field.top() + i, field.width(), 1),
-                   withAlpha(Qt::black, 42 - 10 * i));
+    brush::recess(p, field.adjusted(-4, -4, 4, 4), 4, palette::well, palette::wellLight);
+    p.fillRect(field.adjusted(-1, -1, 1, 1), palette::gap);
+    p.fillRect(field, mix(palette::display, Qt::white, 0.2));
+    brush::fadeDown(p, QRectF(field.topLeft(), QSizeF(field.width(), 60)), withAlpha(Qt::white, 70));
+    brush::fadeDown(p, QRectF(field.topLeft(), QSizeF(field.width(), 7)), withAlpha(Qt::black, 80));
+    for (int i = 0; i < 4; ++i) {
+        const QColor shade = withAlpha(Qt::black, 32 - 8 * i);
+        p.fillRect(QRectF(field.left() + i, field.top(), 1, field.height()), shade);
+        p.fillRect(QRectF(field.right() - 1 - i, field.top(), 1, field.height()), shade);
+    }
 }
 
 void paintPanel(QPainter& p, const QSizeF& size)
 {
     const QRectF plate = plateOf(size);
-    paintPlateShadow(p, plate);
     paintPlate(p, plate);
     paintField(p, fieldOf(size));
-    for (const double x : {plate.left() + 8, plate.right() - 8})
-        for (const double y : {plate.top() + 7.5, plate.bottom() - 7.5})
-            brush::screw(p, {x, y}, 3.5, x < 100 ? 25 : -40);
+    const double left = plate.left() + 8, right = plate.right() - 8;
+    const double top = plate.top() + 7.5, bottom = plate.bottom() - 7.5;
+    brush::screw(p, {left, top}, 3.5, 25);
+    brush::screw(p, {right, top}, 3.5, -40);
+    brush::screw(p, {left, bottom}, 3.5, 75);
+    brush::screw(p, {right, bottom}, 3.5, 10);
 }
 
 void paintArrow(QPainter& p)
@@ -83,9 +88,13 @@ void paintSign(QPainter& p, const QPainterPath& shape, const QColor& color)
     for (int i = 3; i >= 1; --i)
         p.strokePath(shape.translated(0, 1.2),
                      QPen(withAlpha(Qt::black, 22), 1.4 * i, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    p.fillPath(shape,
-               vertical(shape.boundingRect(), mix(color, Qt::white, 0.28), mix(color, Qt::black, 0.12)));
-    p.strokePath(shape, QPen(mix(color, Qt::black, 0.5), 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QRectF area = shape.boundingRect();
+    p.fillPath(shape, vertical(area, mix(color, Qt::white, 0.3), mix(color, Qt::black, 0.1)));
+    p.save();
+    p.setClipPath(shape); // the upper edge catches the light
+    p.strokePath(shape.translated(0, 1), QPen(withAlpha(Qt::white, 110), 2.4));
+    p.restore();
+    p.strokePath(shape, QPen(mix(color, Qt::black, 0.55), 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
 void paintInfo(QPainter& p)
@@ -124,7 +133,7 @@ void paintError(QPainter& p)
             octagon.lineTo(corner);
     }
     octagon.closeSubpath();
-    paintSign(p, octagon, mix(palette::ember, QColor(0x8c, 0x10, 0x0c), 0.6));
+    paintSign(p, octagon, mix(palette::emberDark, palette::ember, 0.15));
     p.setPen(QPen(Qt::white, 4.2, Qt::SolidLine, Qt::RoundCap));
     p.drawLine(QPointF(14, 13), QPointF(26, 25));
     p.drawLine(QPointF(26, 13), QPointF(14, 25));

@@ -4,23 +4,13 @@
 #include "tools/pictures/brush.h"
 #include "tools/pictures/palette.h"
 #include "tools/pictures/picture_table.h"
+#include "tools/pictures/plates.h"
 
 namespace {
 
 using brush::mix;
 using brush::vertical;
 using brush::withAlpha;
-
-// A pane lies deeper than the display: lighter ground, shade under its upper edge, light on its lower lip.
-void paintPane(QPainter& p, const QRectF& area)
-{
-    brush::strokeRound(p, area.adjusted(0, 0, 0, 1), 3, withAlpha(Qt::white, 90));
-    brush::fillRound(p, area, 3, mix(palette::display, Qt::white, 0.32));
-    for (int i = 0; i < 3; ++i)
-        p.fillRect(QRectF(area.left() + 1, area.top() + 1 + i, area.width() - 2, 1),
-                   withAlpha(palette::ink, 44 - 14 * i));
-    brush::strokeRound(p, area, 3, withAlpha(palette::ink, 150));
-}
 
 void paintScene(QPainter& p)
 {
@@ -30,17 +20,12 @@ void paintScene(QPainter& p)
     caption(QRectF(7, 4, 92, 16), QStringLiteral("CATEGORIES"));
     caption(QRectF(163, 4, 60, 16), QStringLiteral("SCALES"));
     for (const QRectF& pane : {QRectF(6, 23, 150, 83), QRectF(162, 23, 134, 83), QRectF(302, 23, 202, 83)})
-        paintPane(p, pane);
+        plates::paintPane(p, pane, 3, plates::paneGround());
 }
 
 void paintScaleLabel(QPainter& p)
 {
-    const QRectF plate(0, 0, 92, 15);
-    brush::strokeRound(p, plate.adjusted(0, 0, 0, 1), 3, withAlpha(Qt::white, 110));
-    brush::fillRound(p, plate, 3, mix(palette::display, Qt::white, 0.5));
-    for (int i = 0; i < 2; ++i)
-        p.fillRect(QRectF(1, 1 + i, 90, 1), withAlpha(palette::ink, 44 - 22 * i));
-    brush::strokeRound(p, plate, 3, withAlpha(palette::ink, 150));
+    plates::paintPane(p, QRectF(0, 0, 92, 15), 3, mix(palette::display, Qt::white, 0.5));
 }
 
 void paintExclamation(QPainter& p)
@@ -49,19 +34,19 @@ void paintExclamation(QPainter& p)
     brush::fillRound(p, disc, 6.5, palette::amberDark);
     brush::fillRound(p, disc.adjusted(1, 1, -1, -1), 5.5,
                      vertical(disc, palette::amberLight, palette::amber));
-    const QColor bang = mix(palette::amberDark, Qt::black, 0.45);
-    brush::fillRound(p, QRectF(6, 3, 2, 5), 0.8, bang);
-    brush::fillRound(p, QRectF(6, 9, 2, 2), 0.8, bang);
+    p.fillRect(QRectF(5, 2, 4, 1), withAlpha(Qt::white, 120));
+    const QColor bang = mix(palette::amberDark, Qt::black, 0.6);
+    p.fillRect(QRectF(6, 3, 2, 5), bang);
+    p.fillRect(QRectF(6, 9, 2, 2), bang);
 }
 
+// The back of a folder with its tab, and before it the front, a slit of ground apart.
 void paintFolder(QPainter& p, const QColor& color)
 {
-    QPainterPath back;
-    back.addRoundedRect(QRectF(1, 1, 5, 4), 1, 1);
-    back.addRoundedRect(QRectF(1, 2, 10, 4), 1, 1);
-    back.setFillRule(Qt::WindingFill);
-    p.fillPath(back, withAlpha(color, 150));
-    brush::fillRound(p, QRectF(1, 4, 10, 5), 1, color);
+    p.fillRect(QRectF(1, 1, 4, 1), color);
+    p.fillRect(QRectF(1, 2, 10, 1), color);
+    p.fillRect(QRectF(1, 3, 10, 1), withAlpha(color, 110));
+    p.fillRect(QRectF(1, 4, 10, 5), color);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "tools/pictures/brush.h"
 #include "tools/pictures/palette.h"
 #include "tools/pictures/picture_table.h"
+#include "tools/pictures/plates.h"
 
 namespace {
 
@@ -25,22 +26,16 @@ void paintMinus(QPainter& p, const QColor& ink, const QColor& /*ground*/)
     p.fillRect(QRectF(4, 7, 8, 2), ink);
 }
 
-void paintPencil(QPainter& p, const QColor& ink, const QColor& /*ground*/)
+// All edges run through corners of pixels, so that both sides look alike.
+void paintPencil(QPainter& p, const QColor& ink, const QColor& ground)
 {
-    p.save();
-    p.translate(3.6, 12.0);
-    p.rotate(45);
-    QPainterPath body; // the tip stands at the origin
-    body.moveTo(0, 0);
-    body.lineTo(1.9, -3.4);
-    body.lineTo(1.9, -8.4);
-    body.lineTo(-1.9, -8.4);
-    body.lineTo(-1.9, -3.4);
+    QPainterPath body(QPointF(3, 13));
+    for (const QPointF& corner : {QPointF(4, 9), QPointF(10, 3), QPointF(13, 6), QPointF(7, 12)})
+        body.lineTo(corner);
     body.closeSubpath();
-    body.addRoundedRect(QRectF(-1.9, -11.6, 3.8, 2.2), 0.7, 0.7);
     p.fillPath(body, ink);
-    p.restore();
-    p.fillRect(QRectF(8, 12, 5, 1), ink);
+    p.setPen(QPen(ground, 1));
+    p.drawLine(QPointF(8.5, 4.5), QPointF(11.5, 7.5)); // before the rubber
 }
 
 void paintNewScale(QPainter& p, const QColor& ink, const QColor& /*ground*/)
@@ -48,9 +43,9 @@ void paintNewScale(QPainter& p, const QColor& ink, const QColor& /*ground*/)
     p.fillRect(QRectF(3, 5, 5, 1), ink);
     p.fillRect(QRectF(5, 3, 1, 2), ink);
     p.fillRect(QRectF(5, 6, 1, 2), ink);
-    const double heights[] = {2, 4, 7};
+    const double heights[] = {3, 6, 9};
     for (int i = 0; i < 3; ++i)
-        p.fillRect(QRectF(4 + 3 * i, 12 - heights[i], 2, heights[i]), ink);
+        p.fillRect(QRectF(4 + 3 * i, 13 - heights[i], 2, heights[i]), ink);
 }
 
 void paintSheet(QPainter& p, const QRectF& area, const QColor& ink, const QColor& ground)
@@ -92,46 +87,46 @@ void paintBin(QPainter& p, const QColor& ink, const QColor& ground)
 
 void paintSmallButton(QPainter& p, bool active, Symbol symbol)
 {
-    const QRectF plate(0, 0, 16, 15);
-    const QColor dark = mix(palette::ink, palette::displayShade, 0.1);
-    const QColor light = mix(palette::display, Qt::white, 0.55);
-    if (!active)
-        brush::fillRound(p, plate.translated(0, 1), 3, withAlpha(palette::ink, 90));
-    brush::fillRound(p, plate, 3,
-                     active ? vertical(plate, dark, mix(palette::ink, palette::displayShade, 0.22))
-                            : vertical(plate, mix(palette::display, Qt::white, 0.75), palette::display));
-    brush::strokeRound(p, plate, 3, withAlpha(palette::ink, 170));
-    symbol(p, active ? light : palette::ink, active ? dark : mix(palette::display, Qt::white, 0.4));
+    plates::paintPlate(p, QRectF(0, 0, 16, 15), 3, active ? plates::Look::pressed : plates::Look::neutral);
+    p.save();
+    if (active) // it goes down with its plate
+        p.translate(0, 1);
+    p.setClipRect(QRectF(1, 1, 14, 13)); // of the plate's face
+    symbol(p, active ? mix(palette::display, Qt::white, 0.6) : palette::wellLight,
+           active ? plates::sunkGround() : mix(palette::display, Qt::white, 0.35));
+    p.restore();
 }
 
+// Pressed, it stays light: its words are ink in both states.
 void paintAbbreviation(QPainter& p, bool active)
 {
     const QRectF plate(0, 0, 42, 15);
-    if (!active)
-        brush::fillRound(p, plate.translated(0, 1), 3, withAlpha(palette::ink, 90));
-    brush::fillRound(p, plate, 3,
-                     active ? vertical(plate, mix(palette::blueLight, palette::blue, 0.1),
-                                       mix(palette::blueLight, Qt::white, 0.2))
-                            : vertical(plate, mix(palette::display, Qt::white, 0.8),
-                                       mix(palette::display, Qt::white, 0.25)));
-    brush::strokeRound(p, plate, 3, withAlpha(palette::ink, active ? 220 : 150));
+    if (active)
+        plates::paintPane(p, plate, 3, mix(palette::blueLight, Qt::white, 0.4));
+    else
+        plates::paintPlate(p, plate, 3, plates::Look::neutral);
 }
 
 void paintAccess(QPainter& p, bool lit, bool active)
 {
-    const QRectF cap = active ? QRectF(1, 2, 40, 13) : QRectF(1, 1, 40, 13);
-    brush::recess(p, QRectF(0.5, 0.5, 41, 14.5), 3, palette::well, palette::wellLight);
-    brush::fillRound(p, cap, 2.5,
-                     active
-                         ? vertical(cap, mix(palette::metalDark, palette::metal, 0.3), palette::metal)
-                         : vertical(cap, palette::metalLight, mix(palette::metal, palette::metalDark, 0.4)));
-    if (!active)
-        p.fillRect(QRectF(cap.left() + 2, cap.top(), cap.width() - 4, 1), withAlpha(Qt::white, 150));
-    const QRectF lamp(cap.left() + 12, cap.top() + 2, 16, 2);
+    brush::recess(p, QRectF(1, 1, 40, 13), 3, palette::well, palette::well);
+    const QRectF cap(2, 2, 38, active ? 12 : 11);
+    const QColor top = active ? mix(palette::metal, palette::metalDark, 0.6) : palette::metalLight;
+    brush::fillRound(p, cap, 2, vertical(cap, top, active ? palette::metal : mix(palette::metal, top, 0.15)));
+    if (active) {
+        brush::fadeDown(p, QRectF(cap.topLeft(), QSizeF(cap.width(), 5)), withAlpha(Qt::black, 120));
+    } else {
+        p.fillRect(QRectF(cap.left() + 1, cap.top(), cap.width() - 2, 1), withAlpha(Qt::white, 170));
+        p.fillRect(QRectF(cap.left() + 1, cap.bottom() - 1, cap.width() - 2, 1), withAlpha(Qt::black, 60));
+    }
+    const double down = active ? 1 : 0;
+    const QRectF lamp(13, 3 + down, 16, 2);
     if (lit)
-        brush::fillRound(p, lamp.adjusted(-1.5, -1, 1.5, 1), 2, withAlpha(palette::presetIdle, 120));
-    brush::fillRound(p, lamp, 1, lit ? mix(palette::presetIdle, Qt::white, 0.35) : palette::well);
-    brush::text(p, QRectF(cap.left(), cap.top() + 4, cap.width(), 9), QStringLiteral("LIBRARY"), 7, true,
+        brush::halo(p, lamp, 1, 3, withAlpha(palette::presetIdle, 170));
+    brush::fillRound(p, lamp, 1, lit ? palette::presetIdle : palette::well);
+    if (lit)
+        brush::fillRound(p, lamp.adjusted(2, 0, -2, -1), 0.5, mix(palette::presetIdle, Qt::white, 0.75));
+    brush::text(p, QRectF(cap.left(), 4 + down, cap.width(), 9), QStringLiteral("LIBRARY"), 7, true,
                 palette::well, Qt::AlignCenter, 0.4);
 }
 

@@ -1,12 +1,15 @@
 // The wordmark: drawn letters of one stroke, and below them the twelve notes of an octave with a scale in
 // them.
 
+#include "tools/pictures/brush.h"
 #include "tools/pictures/palette.h"
 #include "tools/pictures/picture_table.h"
 
 #include <QPainterPath>
 
 namespace {
+
+using brush::withAlpha;
 
 constexpr double top = 14, middle = 28, bottom = 42; // of the strokes' middles
 constexpr double capTop = 12, capBottom = 44, stroke = 4, bend = 14;
@@ -89,23 +92,30 @@ QPainterPath letterE(double x)
     return path;
 }
 
-void paintNotes(QPainter& p)
+void addNotes(QPainterPath& mark)
 {
     constexpr char scale[] = "xoxoxxoxoxox";
     double x = 28;
     for (const char* note = scale; *note; ++note, x += 17)
         if (*note == 'x')
-            p.fillRect(QRectF(x, 50, 15, 4), palette::ink);
+            mark.addRect(QRectF(x, 50, 15, 4));
         else
-            p.fillRect(QRectF(x, 52, 15, 1), palette::ink);
+            mark.addRect(QRectF(x, 52, 15, 1));
 }
 
 void paintLogo(QPainter& p)
 {
+    QPainterPath mark;
+    mark.setFillRule(Qt::WindingFill);
     for (const QPainterPath& letter : {stroked(letterS(30)), stroked(letterO(62)), stroked(letterR(98)),
                                        letterV(124), letterA(145), letterN(178), stroked(letterE(211))})
-        p.fillPath(letter, palette::ink);
-    paintNotes(p);
+        mark.addPath(letter);
+    addNotes(mark);
+    p.save();
+    p.setClipRect(QRectF(0, 0, 258, 55));                           // a flat label lies below
+    p.fillPath(mark.translated(1, 1), withAlpha(palette::ink, 48)); // liquid crystal stands above its ground
+    p.restore();
+    p.fillPath(mark, palette::ink);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // picture_painter FOLDER: paints every picture into FOLDER, at its size and, beside it, at twice its size.
 
 #include "tools/pictures/gif_writer.h"
+#include "tools/pictures/icons.h"
 #include "tools/pictures/picture_table.h"
 
 #include <QDir>
@@ -31,6 +32,23 @@ QString densePath(const QString& path)
     return file.path() + QLatin1Char('/') + file.completeBaseName() + QStringLiteral("@2x.") + file.suffix();
 }
 
+/// The path that could not be written; empty if all could.
+QString paintAll(const QDir& folder)
+{
+    for (const Picture& picture : allPictures()) {
+        const QString path = folder.filePath(picture.path);
+        if (!save(paintPicture(picture, 1), path) || !save(paintPicture(picture, 2), densePath(path)))
+            return path;
+    }
+    for (const int size : iconSizes) {
+        const QString path = folder.filePath(iconPath(size));
+        const QImage icon = paintIcon(size);
+        if (icon.isNull() || !save(icon, path))
+            return path;
+    }
+    return {};
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -40,13 +58,9 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "usage: picture_painter FOLDER\n");
         return 2;
     }
-    const QDir folder(QString::fromLocal8Bit(argv[1]));
-    for (const Picture& picture : allPictures()) {
-        const QString path = folder.filePath(picture.path);
-        if (!save(paintPicture(picture, 1), path) || !save(paintPicture(picture, 2), densePath(path))) {
-            std::fprintf(stderr, "cannot write %s\n", qUtf8Printable(path));
-            return 1;
-        }
-    }
-    return 0;
+    const QString failed = paintAll(QDir(QString::fromLocal8Bit(argv[1])));
+    if (failed.isEmpty())
+        return 0;
+    std::fprintf(stderr, "cannot paint %s\n", qUtf8Printable(failed));
+    return 1;
 }
