@@ -18,6 +18,7 @@ context.properties = {
 }
 context.spa-libs = { support.* = support/libspa-support }
 context.modules = [
+    { name = libpipewire-module-rt flags = [ ifexists nofail ] }
     { name = libpipewire-module-protocol-native }
     { name = libpipewire-module-spa-node-factory }
     { name = libpipewire-module-client-node }
