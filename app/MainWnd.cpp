@@ -78,6 +78,7 @@ MainWnd::MainWnd() : newWindowShortcut(QKeySequence(QStringLiteral("Ctrl+N")), t
     createShortcuts();
     SettingsStore::loadAllSettings();
     scanMIDIPorts();
+    matchScreen();
 }
 
 // A key that the pointer holds must not sound on, and its end reads what the members hold.

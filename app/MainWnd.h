@@ -208,6 +208,8 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -230,6 +232,9 @@ private:
     void createAnchorIN();
     void createAnchorOUT();
     void installFilters();
+
+    // Screen (MainWnd_screen.cpp)
+    void matchScreen();
 
     // Window (MainWnd_window.cpp)
     void createShortcuts();

@@ -9,7 +9,6 @@
 #include "keys/key_roles.h"
 #include "keys/pictures.h"
 
-#include <QCursor>
 #include <QGraphicsPixmapItem>
 
 namespace {
@@ -55,10 +54,6 @@ AnchorItem* makeInAnchor(int n, const QPixmap& digit, const QString& toolTip)
     auto* grip = addPicture(*anchor, pictures::crop(picture, foot), inPicture + footOffset);
     for (QGraphicsItem* part : {number, grip}) // the rest stands over keys, which get the presses there
         part->setToolTip(toolTip);
-    const QCursor cursor(pictures::load(QStringLiteral(":/Resources/Cursor/cursorHr.png")), -1, -1);
-    const auto parts = anchor->childItems();
-    for (QGraphicsItem* part : parts)
-        part->setCursor(cursor);
     name(anchor, n);
     if (n == 0)
         key_roles::markMainPicture(body);

@@ -92,7 +92,6 @@ void MainWnd::createSceneCenter()
     centerScreen->creditLines =
         CenterScreen::parseCreditFile(QStringLiteral(":/Resources/CreditsScreen/CreditsData.txt"));
     centerScreen->creditLines.replaceInStrings(QStringLiteral("@VERSION@"), QLatin1String(sorvaneVersion));
-    ui.centerLogo->setPixmap(pictures::load(QStringLiteral(":/Resources/CenterScreen/Sorvane-Logo-CM.png")));
     const QString style =
         CenterScreen::getMainTextData(QStringLiteral(":/Resources/CenterScreen/button.qss"));
     const QList<QPushButton*> pushButtons = findChildren<QPushButton*>();

@@ -124,7 +124,8 @@ QString MidiService::missingText()
 {
     return QCoreApplication::translate(
         "MidiService", "No MIDI service: Sorvane plays by mouse only. Load the ALSA sequencer (sudo modprobe "
-                       "snd-seq), get the right to it (group audio), or start JACK or PipeWire (with pw-jack), then start Sorvane again.");
+                       "snd-seq), get the right to it (group audio), or start JACK or PipeWire (with "
+                       "pw-jack), then start Sorvane again.");
 }
 
 void MidiService::requireService()

@@ -79,11 +79,10 @@ int end(const CommandLine& wanted, MainWnd& window)
 
 int runStage(CommandLine& wanted, int argc, char** argv)
 {
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    Application::followScreens();
     Application application(argc, argv);
     app = &application;
     const EndSignals signalWatch(nullptr);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     // Asked whether the desktop's session may end, Qt would close the window even if the answer of others is
     // no.
     QGuiApplication::setFallbackSessionManagementEnabled(false);

@@ -2,8 +2,11 @@
 
 #include "logging/categories.h"
 
+#include <QCursor>
 #include <QFile>
 #include <QFileInfo>
+#include <QGraphicsPixmapItem>
+#include <QGraphicsScene>
 #include <QGuiApplication>
 #include <QHash>
 #include <QPainter>
@@ -12,6 +15,11 @@ namespace pictures {
 namespace {
 
 using Cache = QHash<QString, QPixmap>;
+
+// Below it a 1x file that is enlarged a little shows more than a 2x file that is nearly halved.
+constexpr qreal denseFrom = 1.25;
+// A screen that measures itself in whole millimetres comes so near to the ratio that is meant.
+constexpr qreal near = 0.01;
 
 Cache& cache()
 {
@@ -22,11 +30,6 @@ Cache& cache()
         return true;
     }();
     return pictures;
-}
-
-bool isScreenDense()
-{
-    return qGuiApp->devicePixelRatio() > 1.0;
 }
 
 QString denseNeighbour(const QString& path)
@@ -53,6 +56,14 @@ QPixmap decodeDense(const QString& path)
     return picture;
 }
 
+QPixmap blank(const QSize& pixels, qreal ratio)
+{
+    QPixmap picture(pixels);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    return picture;
+}
+
 QRect scaled(const QRect& rectangle, qreal ratio)
 {
     return QRectF(QPointF(rectangle.topLeft()) * ratio, QSizeF(rectangle.size()) * ratio).toRect();
@@ -60,9 +71,24 @@ QRect scaled(const QRect& rectangle, qreal ratio)
 
 } // namespace
 
+int densityFor(qreal densestScreen)
+{
+    return densestScreen < denseFrom - near ? 1 : 2;
+}
+
+int density()
+{
+    return densityFor(qGuiApp->devicePixelRatio());
+}
+
+bool needsSmoothing(qreal screen)
+{
+    return qAbs(screen - density()) > near;
+}
+
 QPixmap load(const QString& path)
 {
-    const bool dense = isScreenDense();
+    const bool dense = density() > 1;
     const QString key = dense ? path + QStringLiteral("@2x") : path;
     const auto known = cache().constFind(key);
     if (known != cache().constEnd())
@@ -99,11 +125,48 @@ QPixmap faded(const QPixmap& picture, qreal opacity)
 
 QPixmap transparent(const QSize& size)
 {
-    const qreal ratio = isScreenDense() ? 2.0 : 1.0;
-    QPixmap picture(size * ratio);
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(Qt::transparent);
-    return picture;
+    return transparent(size, density());
+}
+
+QPixmap transparent(const QSize& size, qreal screen)
+{
+    return blank((QSizeF(size) * screen).toSize(), screen);
+}
+
+QPixmap fitted(const QPixmap& picture, qreal screen)
+{
+    const qreal own = picture.devicePixelRatio();
+    if (picture.isNull() || qAbs(own - screen) <= near)
+        return picture;
+    QPixmap result = blank((QSizeF(picture.size()) * screen / own).toSize(), screen);
+    QPainter painter(&result);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(QPointF(0, 0), picture);
+    return result;
+}
+
+void smooth(QPainter& painter)
+{
+    painter.setRenderHint(QPainter::SmoothPixmapTransform,
+                          needsSmoothing(painter.device()->devicePixelRatioF()));
+}
+
+void smooth(const QGraphicsScene& scene, qreal screen)
+{
+    const auto mode = needsSmoothing(screen) ? Qt::SmoothTransformation : Qt::FastTransformation;
+    const QList<QGraphicsItem*> items = scene.items();
+    for (QGraphicsItem* item : items)
+        if (auto* picture = dynamic_cast<QGraphicsPixmapItem*>(item))
+            picture->setTransformationMode(mode);
+}
+
+QCursor cursor(const QPixmap& picture, qreal screen)
+{
+    QPixmap shown = fitted(picture, screen);
+    // X11 takes a pointer's pixels as they come, and counts the place that points in them.
+    if (QGuiApplication::platformName() == QLatin1String("xcb"))
+        shown.setDevicePixelRatio(1.0);
+    return QCursor(shown, -1, -1);
 }
 
 } // namespace pictures

@@ -4,8 +4,24 @@
 #include <QRect>
 #include <QString>
 
+class QCursor;
+class QGraphicsScene;
+class QPainter;
+
 /// The one door to the picture resources: decoded once, kept for the run, sharp on dense screens.
 namespace pictures {
+
+// The choice
+
+/// How many of a file's pixels make a logical one: 2 where the densest screen has a device pixel ratio
+/// of 1.25 or more, else 1.
+[[nodiscard]] int densityFor(qreal densestScreen);
+/// The density of what is loaded now.
+[[nodiscard]] int density();
+/// True where a screen of that ratio does not show the pixels of the files as they are, or nearly so.
+[[nodiscard]] bool needsSmoothing(qreal screen);
+
+// Pictures
 
 /// The picture at a ":/Resources/" path; its "@2x" neighbour where a screen asks for it. A missing picture is
 /// null and is named once in the log.
@@ -22,5 +38,23 @@ namespace pictures {
 
 /// A transparent picture of a logical size, as dense as load() would give it.
 [[nodiscard]] QPixmap transparent(const QSize& size);
+
+// On a screen of a device pixel ratio
+
+/// A transparent picture of a logical size, rounded to whole pixels of that screen: its size in
+/// logical ones rounds back to the same.
+[[nodiscard]] QPixmap transparent(const QSize& size, qreal screen);
+
+/// The picture in that screen's own pixels, for who draws it without smoothing.
+[[nodiscard]] QPixmap fitted(const QPixmap& picture, qreal screen);
+
+/// Lets a painter smooth pictures if its device asks for that.
+void smooth(QPainter& painter);
+
+/// Lets the pictures in a scene be smoothed if that screen asks for it, and only then.
+void smooth(const QGraphicsScene& scene, qreal screen);
+
+/// The picture as a pointer whose middle points.
+[[nodiscard]] QCursor cursor(const QPixmap& picture, qreal screen);
 
 } // namespace pictures

@@ -260,6 +260,7 @@ void AbstractDialog::keyPressEvent(QKeyEvent* event)
 void AbstractDialog::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    pictures::smooth(painter);
     painter.fillRect(rect(), layerShade);
     if (panel)
         painter.drawPixmap(panel->pos(), panelPicture);

@@ -98,7 +98,7 @@ QBoxLayout* AlertMessageBoxWidget::messageRow()
 {
     auto* symbol = new QLabel(this);
     symbol->setObjectName(QStringLiteral("picture"));
-    symbol->setPixmap(picture);
+    symbol->setPixmap(pictures::fitted(picture, devicePixelRatioF()));
     auto* label = new QLabel(message, this);
     label->setObjectName(QStringLiteral("message"));
     label->setTextFormat(Qt::RichText);
@@ -137,5 +137,6 @@ QBoxLayout* AlertMessageBoxWidget::buttonRow()
 void AlertMessageBoxWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    pictures::smooth(painter);
     painter.drawPixmap(0, 0, pictures::load(QStringLiteral(":/Resources/Background/message_background.png")));
 }

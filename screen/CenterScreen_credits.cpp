@@ -19,7 +19,14 @@ namespace {
 // Scene pixels.
 constexpr qreal halfWidth = 145, firstLineY = 100, lineDistance = 10;
 constexpr qreal step = 0.6, vanishingY = 45.0;
+// Behind the labels of the form that cut the lines off, a line is clear already.
+constexpr qreal clearAbove = 63, clearBelow = 111, fadeLength = 8;
 constexpr QRgb textColor = 0x575450;
+
+qreal opacityAt(qreal lineY)
+{
+    return qBound(0.0, qMin(lineY - clearAbove, clearBelow - lineY) / fadeLength, 1.0);
+}
 
 /// A line that is centred on `halfWidth`, however long it is. It has no width to be centred in, so that it is
 /// never wrapped; a margin does it.
@@ -81,6 +88,7 @@ void CenterScreen::moveCreditsText()
 {
     for (QGraphicsTextItem* item : qAsConst(creditItems)) {
         item->setY(item->y() - step);
+        item->setOpacity(opacityAt(item->y()));
         if (item->y() < vanishingY)
             item->hide();
     }
@@ -93,6 +101,7 @@ void CenterScreen::resetCreditText()
     qreal lineY = y() + firstLineY;
     for (QGraphicsTextItem* item : qAsConst(creditItems)) {
         item->setY(lineY);
+        item->setOpacity(opacityAt(lineY));
         item->show();
         lineY += lineDistance;
     }

@@ -15,6 +15,26 @@ constexpr qreal ghostOpacity = 0.35;
 constexpr int longest = 40; // characters of a plate; the widest shows some twenty
 const QColor ink(0x57, 0x54, 0x50);
 
+// The widest short name leaves no air on its plate at the size of the lists.
+QFont fontOn(LibraryButton::Code code)
+{
+    constexpr int smaller = 9;
+    QFont font = library_name::libraryFont();
+    if (code == LibraryButton::edit_abbr1 || code == LibraryButton::edit_abbr2)
+        font.setPixelSize(smaller);
+    return font;
+}
+
+/// Narrowed as far as it can still be read, where the words are wider than the room.
+QFont narrowed(QFont font, const QString& words, int room)
+{
+    constexpr int narrowest = 75; // percent
+    const int width = QFontMetrics(font).horizontalAdvance(words);
+    if (width > room)
+        font.setStretch(qMax(narrowest, 100 * room / width));
+    return font;
+}
+
 } // namespace
 
 LibraryButton::LibraryButton(Code buttonCode, QPoint place, const QPixmap& neutral, const QPixmap& active,
@@ -62,9 +82,13 @@ void LibraryButton::paint(QPainter* painter, const QStyleOptionGraphicsItem* opt
     QGraphicsPixmapItem::paint(painter, option, widget);
     if (plateText.isEmpty())
         return;
-    painter->setFont(library_name::libraryFont());
+    constexpr int rim = 3;
+    const int room = qRound(boundingRect().width()) - 2 * rim;
+    const QFont font = narrowed(fontOn(code), plateText, room);
+    painter->setFont(font);
     painter->setPen(ink);
-    painter->drawText(boundingRect(), Qt::AlignCenter, plateText);
+    painter->drawText(boundingRect(), Qt::AlignCenter,
+                      QFontMetrics(font).elidedText(plateText, Qt::ElideRight, room));
 }
 
 void LibraryButton::mousePressEvent(QGraphicsSceneMouseEvent* event)

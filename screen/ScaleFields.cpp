@@ -4,10 +4,12 @@
 #include "screen/CenterScreen.h"
 
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextEdit>
 
 #include <algorithm>
@@ -19,6 +21,7 @@ const QSize buttonSize(105, 23);
 constexpr int fieldHeight = 22, messageHeight = 24, abbrWidth = 70;
 constexpr int messageWidth = 354; // breaks its lines before the list of signs
 constexpr int textMargin = 2;     // as line edits have it
+constexpr int frame = 2;          // border and padding of a field, above and below
 constexpr int rowSpacing = 6, columnSpacing = 8, buttonSpacing = 10;
 
 const QString goodStyle = QStringLiteral("QLineEdit { border-width: 0px; color: black; }");
@@ -78,6 +81,7 @@ void ScaleFields::dressFields()
     description->setPlaceholderText(tr("(no description)"));
     description->setTabChangesFocus(true);
     description->setToolTip(tr("Shift+Return begins a new line."));
+    fitDescription();
     message->setObjectName(QStringLiteral("message"));
     message->setStyleSheet(QStringLiteral("QLabel { color:red; font-size: 9px; padding: 0px; }"));
     message->setAlignment(Qt::AlignCenter);
@@ -86,12 +90,25 @@ void ScaleFields::dressFields()
     message->setFixedSize(messageWidth, messageHeight);
 }
 
+// Whole lines only, and by whole lines it scrolls: none is cut at the field's edge.
+void ScaleFields::fitDescription()
+{
+    const int lines = category ? 9 : 8;
+    description->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    description->ensurePolished(); // the style gives it its font
+    const int line = QFontMetrics(description->font()).lineSpacing();
+    description->setFixedHeight(lines * line + 2 * (textMargin + frame));
+    description->verticalScrollBar()->setSingleStep(line);
+}
+
 void ScaleFields::initialize()
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(panelMargins);
     column->setSpacing(rowSpacing);
-    column->addLayout(fieldRows(), 1);
+    QFormLayout* rows = fieldRows();
+    column->addLayout(rows, 1);
+    column->setAlignment(rows, Qt::AlignTop);
     column->addWidget(message, 0, Qt::AlignHCenter);
     column->addLayout(buttonRow());
 }

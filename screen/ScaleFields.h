@@ -63,6 +63,7 @@ private:
     };
 
     void dressFields();
+    void fitDescription();
     void initialize();
     [[nodiscard]] QFormLayout* fieldRows();
     [[nodiscard]] QBoxLayout* buttonRow();

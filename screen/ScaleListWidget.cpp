@@ -42,7 +42,7 @@ void ScaleListWidget::insertItem(int index, const QString& word, const QString& 
 
 QPixmap ScaleListWidget::pixmapForDragging(int row, const QSize& size) const
 {
-    QPixmap pixmap = pictures::transparent(size);
+    QPixmap pixmap = pictures::transparent(size, devicePixelRatioF());
     const QListWidgetItem* dragged = item(row);
     if (!dragged)
         return pixmap;

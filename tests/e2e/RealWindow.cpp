@@ -1,6 +1,7 @@
 #include "RealWindow.h"
 
 #include "XServer.h"
+#include "app/Application.h"
 #include "app/MidiService.h"
 #include "library/SettingsStore.h"
 
@@ -9,7 +10,8 @@
 
 QSize RealWindow::screenSize()
 {
-    return QSize(952, 480) * qMax(1, qEnvironmentVariableIntValue("QT_SCALE_FACTOR"));
+    const double ratio = qMax(1.0, qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
+    return (QSizeF(952, 480) * ratio).toSize();
 }
 
 bool RealWindow::prepare(XServer& server)
@@ -17,8 +19,7 @@ bool RealWindow::prepare(XServer& server)
     qputenv("QT_QPA_PLATFORM", "xcb");
     qputenv("QT_XCB_GL_INTEGRATION", "none");
     qputenv("QT_FONT_DPI", "96");
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    Application::followScreens();
     return server.start();
 }
 

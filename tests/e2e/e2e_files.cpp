@@ -39,6 +39,14 @@ bool key(const char* name)
     return XServer::key(QLatin1String(name));
 }
 
+/// The window that has the keyboard: a question takes it a moment after it was called for.
+QByteArray keyboardWindow()
+{
+    ChildProcess hand;
+    hand.start(QStringLiteral("xdotool"), {QStringLiteral("getwindowfocus"), QStringLiteral("-f")});
+    return hand.waitForFinished() ? hand.readAllStandardOutput() : QByteArray();
+}
+
 } // namespace
 
 class EndToEndFiles : public QObject
@@ -177,7 +185,9 @@ void EndToEndFiles::overwritingAsks()
     QCOMPARE(contentOf(name), saved);
     QVERIFY(SessionRun::giveKeyboardTo(saveTitle) && key("Escape") && goBack());
     QCOMPARE(contentOf(name), saved);
-    QVERIFY(ask("ctrl+s") && answer(path(name)));
+    QVERIFY(ask("ctrl+s"));
+    const QByteArray dialog = keyboardWindow();
+    QVERIFY(answer(path(name)) && QTest::qWaitFor([&] { return keyboardWindow() != dialog; }));
     QVERIFY(key("alt+y") && goBack());
     QVERIFY(contentOf(name) != saved && contentOf(name).endsWith("}\n"));
     QVERIFY(open(path(name)));

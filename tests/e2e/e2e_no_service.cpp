@@ -13,7 +13,7 @@
 namespace {
 
 const QString programPath = QStringLiteral(SORVANE_PROGRAM);
-const QPoint tonicC(40, 240), tonicE(77, 240), powerSquare(324, 354);
+const QPoint tonicC(38, 226), tonicE(74, 226), powerSquare(324, 354);
 
 QColor pixel(QPoint pos)
 {

@@ -18,7 +18,7 @@ void SceneBuilder::fixSurroundings()
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_FONT_DPI", "96");
     qputenv("LC_ALL", "C.UTF-8");
-    qputenv("XDG_CONFIG_HOME", "/dev/null"); // no font settings of the user's
+    qputenv("FONTCONFIG_FILE", SORVANE_FONTS); // no font settings of the user's or the machine's
     for (const char* name : {"QT_QPA_PLATFORMTHEME", "QT_STYLE_OVERRIDE", "QT_SCREEN_SCALE_FACTORS"})
         qunsetenv(name);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);

@@ -38,6 +38,7 @@ private slots:
     void hiddenByHandTheyAreGone();
     void resetShowsEveryLine();
     void noLineIsSeenBehindTheVersion();
+    void linesFadeInAndOut();
 
 private:
     /// What one line paints when it stands alone: the smallest rectangle, in the scene.
@@ -331,6 +332,29 @@ void TestCenterCredits::noLineIsSeenBehindTheVersion()
     const QImage seenLine = window->grab(below).toImage();
     line->hide();
     QVERIFY(window->grab(below).toImage() != seenLine);
+}
+
+// The labels of the form cut a line off: it must be pale when it gets there.
+void TestCenterCredits::linesFadeInAndOut()
+{
+    constexpr qreal labelAbove = 224 - 152, labelBelow = 274 - 152; // of the form, in the scene
+    constexpr qreal capitals = 6, baseline = 13, pale = 0.4;        // of a line's letters, in its item
+    screen().creditLines = QStringList{"one", "two", "three", "four"};
+    call(to_credits);
+    screen().creditTimer->stop();
+    const QGraphicsTextItem* line = screen().creditItems.last();
+    QCOMPARE(line->opacity(), 0.0);
+    qreal before = 0, most = 0;
+    for (; line->y() >= vanishingY + step; screen().moveCreditsText()) {
+        const qreal now = line->opacity(), top = line->y() + capitals, bottom = line->y() + baseline;
+        QVERIFY(top + bottom > labelAbove + labelBelow ? now >= before : now <= before);
+        QVERIFY2((top >= labelAbove && bottom <= labelBelow) || now <= pale,
+                 qPrintable(QString::number(line->y())));
+        before = now;
+        most = qMax(most, now);
+    }
+    QCOMPARE(most, 1.0);
+    QCOMPARE(before, 0.0);
 }
 
 QTEST_MAIN(TestCenterCredits)

@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QTextEdit>
 
 class TestDialogFields : public DialogFixture
@@ -25,6 +27,8 @@ private slots:
     void everythingFits();
     void defaults_data();
     void defaults();
+    void descriptionShowsWholeLines_data();
+    void descriptionShowsWholeLines();
 
     // Focus
     void firstFocus_data();
@@ -153,6 +157,30 @@ void TestDialogFields::defaults()
     QVERIFY(message->alignment() & Qt::AlignHCenter);
     QCOMPARE(message->styleSheet(), QStringLiteral("QLabel { color:red; font-size: 9px; padding: 0px; }"));
     QCOMPARE(dialog->findChildren<QComboBox*>().size(), kind == QLatin1String("add") ? 1 : 0);
+}
+
+void TestDialogFields::descriptionShowsWholeLines_data()
+{
+    addScaleKinds();
+}
+
+void TestDialogFields::descriptionShowsWholeLines()
+{
+    QFETCH(QString, kind);
+    const auto dialog = make(kind);
+    auto* description = dialog->findChild<QTextEdit*>();
+    description->setPlainText(QStringLiteral("a line\n").repeated(40));
+    const auto lineTop = [description](int line) {
+        return description->cursorRect(QTextCursor(description->document()->findBlockByNumber(line))).top();
+    };
+    run(*dialog, [&] {
+        const int height = lineTop(1) - lineTop(0), margin = lineTop(0);
+        const int room = description->viewport()->height() - 2 * margin;
+        QVERIFY(height > 10 && room / height >= 8);
+        QCOMPARE(room % height, 0);
+        description->verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        QCOMPARE(lineTop(1), margin);
+    });
 }
 
 void TestDialogFields::firstFocus_data()

@@ -81,7 +81,7 @@ void paintPanel(QPainter& p, const QRectF& area, const QRectF& octave, const QSt
 {
     brush::fillRound(p, area.adjusted(-1, 0, 1, 2), 6, withAlpha(Qt::white, 85)); // lower lip
     brush::fillRound(p, area.adjusted(-1, -1, 1, 1), 6, withAlpha(Qt::black, 70));
-    const QColor ground = mix(palette::metalDark, palette::metal, 0.15);
+    const QColor ground = mix(palette::metalDark, palette::metal, 0.45);
     brush::fillRound(p, area, 5, vertical(area, mix(ground, Qt::black, 0.12), ground));
     p.save();
     QPainterPath tray;

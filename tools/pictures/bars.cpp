@@ -16,8 +16,10 @@ constexpr int firstKey = 8, whiteKeyWidth = 17, whiteKeyCount = 52, whitesPerOct
 // A ruler on the side of the keys: a mark at each white key's edge, a longer one below each C.
 void paintMarks(QPainter& p, double railHeight, bool keysAbove)
 {
+    // Over the black keys the numbers of the upper rail stand on the marks: these keep clear of them.
+    const double ordinary = keysAbove ? 3 : 2, ofC = keysAbove ? 5 : 3;
     for (int k = 0; k <= whiteKeyCount; ++k) {
-        const double length = k % whitesPerOctave == firstC ? 5 : 3;
+        const double length = k % whitesPerOctave == firstC ? ofC : ordinary;
         const double y = keysAbove ? 1 : railHeight - 1 - length;
         const double x = firstKey + whiteKeyWidth * k;
         p.fillRect(QRectF(x, y, 1, length), withAlpha(palette::ink, 150));

@@ -146,7 +146,9 @@ void text(QPainter& painter, const QRectF& area, const QString& words, int pixel
 {
     QFont font;
     font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial")});
-    font.setStyleHint(QFont::SansSerif);
+    // The same letters whatever the machine's font settings are.
+    font.setStyleHint(QFont::SansSerif, QFont::PreferAntialias);
+    font.setHintingPreference(QFont::PreferVerticalHinting);
     font.setPixelSize(pixelSize);
     font.setBold(bold);
     font.setLetterSpacing(QFont::AbsoluteSpacing, spacing);

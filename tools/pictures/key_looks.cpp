@@ -26,7 +26,7 @@ KeyLook plainLook()
 KeyLook litLook(const char* name, const QColor& light, const QColor& full, const QColor& dark)
 {
     return {QLatin1String(name),
-            {mix(mix(ivory, ivoryShade, 0.4), light, 0.85), mix(ivory, light, 0.55),
+            {mix(mix(ivory, ivoryShade, 0.4), light, 0.9), mix(ivory, full, 0.52),
              mix(full, ivoryShade, 0.25), Qt::transparent, 200},
             {mix(full, dark, 0.35), full, mix(full, dark, 0.45), withAlpha(mix(light, Qt::white, 0.45), 215),
              150},

@@ -147,9 +147,9 @@ void paintSheet(QPainter& p, const KeyLook& look)
 }
 
 // The same in every column, so that the light runs on from key to key.
-void paintShine(QPainter& p, const QColor& color)
+void paintShine(QPainter& p, const QColor& color, int alpha)
 {
-    brush::fadeDown(p, QRectF(0, 0, 33, 43), withAlpha(color, 60));
+    brush::fadeDown(p, QRectF(0, 0, 33, 43), withAlpha(color, alpha));
 }
 
 } // namespace
@@ -160,6 +160,7 @@ void addKeyPictures(std::vector<Picture>& table)
         table.push_back({QStringLiteral("Keyboard/%1.png").arg(look.name), {155, 99}, [look](QPainter& p) {
                              paintSheet(p, look);
                          }});
-    table.push_back({"INPUTblueShine.png", {33, 43}, [](QPainter& p) { paintShine(p, palette::blue); }});
-    table.push_back({"OUTPUTyellowShine.png", {33, 43}, [](QPainter& p) { paintShine(p, palette::amber); }});
+    table.push_back({"INPUTblueShine.png", {33, 43}, [](QPainter& p) { paintShine(p, palette::blue, 92); }});
+    table.push_back(
+        {"OUTPUTyellowShine.png", {33, 43}, [](QPainter& p) { paintShine(p, palette::amber, 60); }});
 }

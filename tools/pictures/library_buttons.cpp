@@ -107,6 +107,23 @@ void paintAbbreviation(QPainter& p, bool active)
         plates::paintPlate(p, plate, 3, plates::Look::neutral);
 }
 
+// At 1x the letters of a font run together in so little room: there they are set by hand.
+void paintWord(QPainter& p, const QRectF& area)
+{
+    constexpr const char* rows[] = {
+        "X   X XXX  XXX   XX  XXX  X X", "X   X X  X X  X X  X X  X X X", "X   X XXX  XXX  XXXX XXX   X ",
+        "X   X X  X X X  X  X X X   X ", "XXX X XXX  X  X X  X X  X  X ",
+    };
+    if (p.transform().m11() > 1) {
+        brush::text(p, area, QStringLiteral("LIBRARY"), 7, true, palette::well, Qt::AlignCenter, 0.4);
+        return;
+    }
+    for (int row = 0; row < 5; ++row)
+        for (int column = 0; column < 29; ++column)
+            if (rows[row][column] == 'X')
+                p.fillRect(QRectF(area.left() + 5 + column, area.top() + 2 + row, 1, 1), palette::well);
+}
+
 void paintAccess(QPainter& p, bool lit, bool active)
 {
     brush::recess(p, QRectF(1, 1, 40, 13), 3, palette::well, palette::well);
@@ -126,8 +143,7 @@ void paintAccess(QPainter& p, bool lit, bool active)
     brush::fillRound(p, lamp, 1, lit ? palette::presetIdle : palette::well);
     if (lit)
         brush::fillRound(p, lamp.adjusted(2, 0, -2, -1), 0.5, mix(palette::presetIdle, Qt::white, 0.75));
-    brush::text(p, QRectF(cap.left(), 4 + down, cap.width(), 9), QStringLiteral("LIBRARY"), 7, true,
-                palette::well, Qt::AlignCenter, 0.4);
+    paintWord(p, QRectF(cap.left(), 4 + down, cap.width(), 9));
 }
 
 /// One picture for each look of a button.

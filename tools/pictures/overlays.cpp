@@ -7,13 +7,13 @@
 
 namespace {
 
-using brush::vertical;
+using brush::mix;
 using brush::withAlpha;
 
 const QRectF outRod(27, 43, 907, 3), inRod(29, 298, 903, 3);
 
-// The case stands over the backs of the output keys; those of the input keys carry their shade themselves,
-// since flags stand before them.
+// The case stands over the backs of the output keys. What lies on those of the input keys is painted with
+// them: flags stand before them.
 void paintCaseShadow(QPainter& p, int alpha)
 {
     const double width = stage::wellRight - stage::wellLeft;
@@ -39,20 +39,10 @@ void paintLightOfOutput(QPainter& p)
     spill(p, stage::wellLeft, stage::wellRight, 46, 18, withAlpha(palette::amber, 84));
 }
 
-// Flags and power button stand before the keys' backs: what lies over them there begins without an edge.
-void paintSoftBand(QPainter& p, double top, double peak, double bottom, const QColor& color)
-{
-    const QRectF band(stage::wellLeft, top, stage::wellRight - stage::wellLeft, bottom - top);
-    QLinearGradient light = vertical(band, withAlpha(color, 0), withAlpha(color, 0));
-    light.setColorAt((peak - top) / (bottom - top), color);
-    p.fillRect(band, light);
-}
-
 void paintLightOfInput(QPainter& p)
 {
     paintRodLight(p, inRod, palette::blue, palette::blueLight);
     spill(p, 28, 933, 301, 16, withAlpha(palette::blue, 70));
-    paintSoftBand(p, 348, 358, 378, withAlpha(palette::blue, 46));
 }
 
 void paintAwake(QPainter& p)
@@ -72,9 +62,9 @@ void paintAsleep(QPainter& p)
     p.fillRect(stage::outKeys, withAlpha(palette::well, 24));
     brush::fadeDown(p, QRectF(stage::outKeys.topLeft(), QSizeF(stage::outKeys.width(), 46)),
                     withAlpha(palette::well, 70));
-    QLinearGradient dusk = vertical(stage::inKeys, withAlpha(palette::well, 0), withAlpha(palette::well, 24));
-    dusk.setColorAt(0.35, withAlpha(palette::well, 44));
-    p.fillRect(stage::inKeys, dusk);
+    p.fillRect(stage::inKeys, withAlpha(palette::well, 24));
+    brush::fadeDown(p, QRectF(stage::inKeys.topLeft(), QSizeF(stage::inKeys.width(), 46)),
+                    withAlpha(mix(palette::amberDark, palette::well, 0.6), 130));
     p.fillRect(outRod, withAlpha(Qt::black, 70));
     p.fillRect(inRod, withAlpha(Qt::black, 70));
 }
