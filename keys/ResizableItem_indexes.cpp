@@ -24,7 +24,7 @@ namespace {
 constexpr int outAnchorMiddle = 23; // x of an out anchor's tip, as created
 constexpr int oneDigit = 5;         // pixels, of most of them
 constexpr int inMarkTop = 3, outMarkTop = 9;
-constexpr qreal awake = 1, asleep = 0.45; // of the anchors, with the power on and off
+constexpr qreal awake = 1, asleep = 0.7; // of the anchors, with the power on and off
 
 int widthOf(const QPixmap& picture)
 {

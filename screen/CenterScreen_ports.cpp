@@ -15,8 +15,8 @@ namespace {
 
 constexpr int selectDelayMs = 200;
 const QPointF portBackgroundPos(320, 15);    // in the scene
-const QRect inListPlace(214, 196, 185, 80);  // in the form
-const QRect outListPlace(411, 196, 160, 80); // as far as the paper note
+const QRect inListPlace(214, 196, 185, 75);  // in the form; five whole rows
+const QRect outListPlace(411, 196, 160, 75); // as far as the paper note
 
 } // namespace
 

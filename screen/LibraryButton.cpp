@@ -15,13 +15,11 @@ constexpr qreal ghostOpacity = 0.35;
 constexpr int longest = 40; // characters of a plate; the widest shows some twenty
 const QColor ink(0x57, 0x54, 0x50);
 
-// The widest short name leaves no air on its plate at the size of the lists.
-QFont fontOn(LibraryButton::Code code)
+// At the size of the lists the widest short name would leave no air on its plate.
+QFont plateFont()
 {
-    constexpr int smaller = 9;
     QFont font = library_name::libraryFont();
-    if (code == LibraryButton::edit_abbr1 || code == LibraryButton::edit_abbr2)
-        font.setPixelSize(smaller);
+    font.setPixelSize(9);
     return font;
 }
 
@@ -82,12 +80,12 @@ void LibraryButton::paint(QPainter* painter, const QStyleOptionGraphicsItem* opt
     QGraphicsPixmapItem::paint(painter, option, widget);
     if (plateText.isEmpty())
         return;
-    constexpr int rim = 3;
+    constexpr int rim = 3, shadow = 1; // of a plate's picture
     const int room = qRound(boundingRect().width()) - 2 * rim;
-    const QFont font = narrowed(fontOn(code), plateText, room);
+    const QFont font = narrowed(plateFont(), plateText, room);
     painter->setFont(font);
     painter->setPen(ink);
-    painter->drawText(boundingRect(), Qt::AlignCenter,
+    painter->drawText(boundingRect().adjusted(0, 0, 0, -shadow), Qt::AlignCenter,
                       QFontMetrics(font).elidedText(plateText, Qt::ElideRight, room));
 }
 

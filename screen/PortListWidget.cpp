@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int rowHeight = 16;
+constexpr int rowHeight = 15;
 
 } // namespace
 

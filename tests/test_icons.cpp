@@ -2,6 +2,7 @@
 
 #include "app/MainWnd.h"
 #include "app/window_icon.h"
+#include "tests/picture_distance.h"
 #include "tools/pictures/icons.h"
 #include "tools/pictures/palette.h"
 
@@ -13,6 +14,9 @@
 #include <QtTest>
 
 #include <cmath>
+
+using picture_distance::between;
+using picture_distance::onGround;
 
 namespace {
 
@@ -39,15 +43,6 @@ int difference(QRgb a, QRgb b)
                      std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
 }
 
-int worstDifference(const QImage& a, const QImage& b)
-{
-    int worst = 0;
-    for (int y = 0; y < a.height(); ++y)
-        for (int x = 0; x < a.width(); ++x)
-            worst = std::max(worst, difference(a.pixel(x, y), b.pixel(x, y)));
-    return worst;
-}
-
 double linear(int channel)
 {
     const double share = channel / 255.0;
@@ -63,14 +58,6 @@ double contrast(QRgb a, QRgb b)
 {
     const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
     return (lighter + 0.05) / (darker + 0.05);
-}
-
-QImage onGround(const QImage& icon, const QColor& ground)
-{
-    QImage image(icon.size(), QImage::Format_RGB32);
-    image.fill(ground);
-    QPainter(&image).drawImage(0, 0, icon);
-    return image;
 }
 
 /// The strongest contrast with the ground that is met in a line's first tenth, from a side to the middle.
@@ -255,7 +242,7 @@ void TestIcons::smallSizesHaveTheirOwnDrawing()
         if (iconSource(size).endsWith(QStringLiteral("/sorvane-small.svg")))
             small.append(QString::number(size));
     QCOMPARE(small, QStringList({"16", "22", "24"}));
-    QVERIFY(worstDifference(paintIcon(24), paintIcon(32).scaled(24, 24)) > 100);
+    QVERIFY(between(paintIcon(24), paintIcon(32).scaled(24, 24)).worst > 100);
 }
 
 void TestIcons::everySizeIsAResource()
@@ -269,8 +256,7 @@ void TestIcons::committedIconIsRenderedFromItsDrawing()
     QFETCH(int, size);
     const QImage file = committed(size), fresh = paintIcon(size);
     QCOMPARE(file.size(), fresh.size());
-    for (const QColor& ground : {QColor(Qt::black), QColor(Qt::white)}) // what is seen of a faint pixel
-        QVERIFY(worstDifference(onGround(file, ground), onGround(fresh, ground)) <= tolerance);
+    QVERIFY(between(file, fresh).worst <= tolerance);
 }
 
 void TestIcons::cornersAreTransparent()

@@ -148,8 +148,8 @@ void TestStage::opensAt952AndMovesItsChildren()
     QCOMPARE(window->ui.buttonMIDIinOut->x(), 237);
     QCOMPARE(window->ui.backgroundGraphicsView->x(), 0);
     QCOMPARE(window->ui.inputSwitchGraphicsView->x(), 926);
-    QCOMPARE(window->centerScreen->inPortList->geometry(), QRect(351, 196, 185, 80));
-    QCOMPARE(window->centerScreen->outPortList->geometry(), QRect(548, 196, 160, 80));
+    QCOMPARE(window->centerScreen->inPortList->geometry(), QRect(351, 196, 185, 75));
+    QCOMPARE(window->centerScreen->outPortList->geometry(), QRect(548, 196, 160, 75));
 }
 
 void TestStage::sizeStaysWithinItsBounds()

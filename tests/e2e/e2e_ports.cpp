@@ -27,7 +27,7 @@ constexpr char longName[] = "A keyboard controller whose name is wider than its 
 
 // Of the stage.
 constexpr QPoint portsButton(289, 196), besideTheLists(473, 291), farAway(940, 150);
-constexpr QRect inList(351, 196, 185, 80), outList(548, 196, 160, 80);
+constexpr QRect inList(351, 196, 185, 75), outList(548, 196, 160, 75);
 constexpr int rowHeight = 15;
 
 QRect rowPlace(const QRect& list, int row)

@@ -76,7 +76,7 @@ struct Limit
     double ratio, difference;
 };
 
-constexpr Limit limits[] = {{1.25, 3.5}, {1.5, 2.6}, {2, 0.01}, {3, 1.7}};
+constexpr Limit limits[] = {{1.25, 3.5}, {1.5, 2.6}, {3, 1.7}};
 constexpr double leastSharp = 0.92, mostSharp = 1.33; // of a good change of size
 
 double limitOfDifference()
@@ -255,8 +255,10 @@ void EndToEndRatios::pictureIsTheDenseOneInAnotherSize()
     QVERIFY(window.hand().rest());
     const QImage shown = window.picture();
     const QString file = pictures.filePath(QLatin1String(QTest::currentDataTag()) + QLatin1String(".png"));
-    if (ratio() == 2.0)
+    if (ratio() == 2.0) { // what the other screens are held against
         QVERIFY(pictures.mkpath(QStringLiteral(".")) && shown.save(file));
+        return;
+    }
     const QImage dense(file);
     QVERIFY2(!dense.isNull(), "run at ratio 2 first");
     const QImage expected = likeness::inSize(dense, shown.size());

@@ -48,6 +48,8 @@ protected:
     void powerHovered();
     void powerDragged();
     void powerMoved();
+    void powerPressed();
+    void powerTarget();
     void presetPlayed();
     void presetHovered();
     void presetMenu();
@@ -57,6 +59,7 @@ protected:
 
     // Scenes of the display (SceneBuilder_display.cpp)
     void cleanDisplay();
+    void buttonStates();
     void ports();
     void credits();
     void libraryOpen();

@@ -28,6 +28,19 @@ void SceneBuilder::cleanDisplay()
     QCOMPARE(screen().currentScene, int(CenterScreen::scene_clean));
 }
 
+// Under the pointer, held down, with the keyboard's focus, and checked.
+void SceneBuilder::buttonStates()
+{
+    const auto& ui = window->ui;
+    ui.buttonMIDIinOut->setChecked(true);
+    ui.buttonCredits->setDown(true);
+    ui.buttonManual->setFocus(Qt::TabFocusReason);
+    ui.buttonReset->setEnabled(false);
+    QEvent enter(QEvent::Enter);
+    ui.buttonExport->setAttribute(Qt::WA_UnderMouse); // no pointer is there to be asked for
+    QCoreApplication::sendEvent(ui.buttonExport, &enter);
+}
+
 // A long name, a busy port that stays selected, and the keyboard's focus on a row.
 void SceneBuilder::ports()
 {

@@ -47,6 +47,24 @@ void SceneBuilder::powerMoved()
     QCOMPARE(key_roles::pitch(power()), blankPreset);
 }
 
+void SceneBuilder::powerPressed()
+{
+    powerOn();
+    hand->press(power()->pos() + QPointF(9, 15));
+    picture = take();
+    hand->release();
+}
+
+// A preset is held over the button.
+void SceneBuilder::powerTarget()
+{
+    powerOn();
+    hand->drag(boxOf(iwatoPreset), power()->pos() + QPointF(9, 15), 25);
+    QVERIFY(header(iwatoPreset)->dragStarted);
+    picture = take();
+    hand->release();
+}
+
 // Recalled by its black key, with a chord held: keys are lit on both keyboards.
 void SceneBuilder::presetPlayed()
 {

@@ -58,6 +58,9 @@ void paintWells(QPainter& p)
         brush::recess(p, rail, 2, palette::well, palette::well);
     paintWell(p, stage::outKeys);
     paintWell(p, stage::inKeys);
+    for (const double x : {27.0, 932.0}) // the rod of the lower keyboard is shorter than its groove
+        p.fillRect(QRectF(x, 298, 2, 3),
+                   vertical(QRectF(x, 298, 2, 3), palette::metalDark, palette::metalEdge));
 }
 
 void paintDisplay(QPainter& p)
@@ -77,7 +80,8 @@ void paintDisplay(QPainter& p)
     }
 }
 
-void paintPanel(QPainter& p, const QRectF& area, const QRectF& octave, const QString& caption)
+void paintPanel(QPainter& p, const QRectF& area, const QRectF& octave, double captionLeft,
+                const QString& caption)
 {
     brush::fillRound(p, area.adjusted(-1, 0, 1, 2), 6, withAlpha(Qt::white, 85)); // lower lip
     brush::fillRound(p, area.adjusted(-1, -1, 1, 1), 6, withAlpha(Qt::black, 70));
@@ -92,7 +96,7 @@ void paintPanel(QPainter& p, const QRectF& area, const QRectF& octave, const QSt
     p.restore();
     brush::recess(p, octave.adjusted(-3, -2, 3, 3), 3, palette::well, palette::wellLight);
     paintSleepingOctave(p, octave.topLeft());
-    brush::engraved(p, QRectF(octave.left(), octave.bottom() + 8, 76, 16), caption, 10,
+    brush::engraved(p, QRectF(captionLeft, octave.bottom() + 8, 76, 16), caption, 10,
                     Qt::AlignLeft | Qt::AlignVCenter);
 }
 
@@ -121,8 +125,8 @@ void paintCase(QPainter& p)
 {
     paintMetal(p);
     paintWells(p);
-    paintPanel(p, stage::leftPanel, stage::tonicOctave, QStringLiteral("TONIC"));
-    paintPanel(p, stage::rightPanel, stage::scaleOctave, QStringLiteral("SCALE"));
+    paintPanel(p, stage::leftPanel, stage::tonicOctave, 35, QStringLiteral("TONIC"));
+    paintPanel(p, stage::rightPanel, stage::scaleOctave, 814, QStringLiteral("SCALE"));
     paintDisplay(p);
     paintPlates(p);
     paintEngravings(p);

@@ -44,7 +44,7 @@ void paintPlate(QPainter& p, const QRectF& plate)
     p.restore();
 }
 
-// A display like the one on the case: its pane lies deep, and one soft band of sky lies on it.
+// A display like the one on the case: its pane lies deep, and the sky lies on its upper end.
 void paintField(QPainter& p, const QRectF& field)
 {
     brush::recess(p, field.adjusted(-4, -4, 4, 4), 4, palette::well, palette::wellLight);

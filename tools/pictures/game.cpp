@@ -11,8 +11,6 @@ namespace {
 using brush::mix;
 using brush::withAlpha;
 
-const QColor blueBlack(0x24, 0x34, 0x52), warmRed(0xb8, 0x38, 0x28), noteYellow(0xfb, 0xf2, 0xcf);
-
 /// A stroke of a pen along a curve: dots that swell and thin out as the hand presses.
 void paintStroke(QPainter& p, const QPainterPath& curve, double width, const QColor& color)
 {
@@ -34,8 +32,8 @@ void paintCross(QPainter& p)
     falling.cubicTo(6, 4.6, 9, 7.4, 13.4, 12.2);
     QPainterPath rising(QPointF(13.2, 1.6));
     rising.cubicTo(10, 4.4, 6.2, 7.8, 2.4, 12);
-    paintStroke(p, falling, 2.1, blueBlack);
-    paintStroke(p, rising, 2.1, blueBlack);
+    paintStroke(p, falling, 2.1, palette::inkPen);
+    paintStroke(p, rising, 2.1, palette::inkPen);
 }
 
 void paintNought(QPainter& p)
@@ -45,7 +43,7 @@ void paintNought(QPainter& p)
     loop.cubicTo(2.6, 10.8, 5.6, 12.6, 8.6, 12.2);
     loop.cubicTo(12, 11.8, 13.8, 9.2, 13.6, 6.4);
     loop.cubicTo(13.4, 3.6, 11.2, 1.8, 7.6, 2.5);
-    paintStroke(p, loop, 2.0, warmRed);
+    paintStroke(p, loop, 2.0, palette::redPen);
 }
 
 QPainterPath sheetOutline()
@@ -67,7 +65,7 @@ void paintTape(QPainter& p)
         strip.lineTo(corner);
     strip.closeSubpath();
     p.fillPath(strip.translated(0.3, 0.8), withAlpha(Qt::black, 40));
-    p.fillPath(strip, QColor(0xc9, 0xb0, 0x6e, 225));
+    p.fillPath(strip, withAlpha(palette::tape, 225));
     p.setClipPath(strip);
     p.fillRect(QRectF(24, 1.6, 18, 0.8), withAlpha(Qt::white, 70)); // where it bends over the sheet's edge
     p.setClipping(false);
@@ -79,9 +77,9 @@ void paintPaper(QPainter& p)
     for (int i = 4; i >= 1; --i)
         p.fillPath(sheet.translated(0.25 * i, 0.6 * i), withAlpha(Qt::black, 24));
     QLinearGradient tone(0, 2, 66, 60);
-    tone.setColorAt(0, mix(noteYellow, Qt::white, 0.35));
-    tone.setColorAt(0.75, noteYellow);
-    tone.setColorAt(1, mix(noteYellow, palette::ivoryShade, 0.8));
+    tone.setColorAt(0, mix(palette::note, Qt::white, 0.35));
+    tone.setColorAt(0.75, palette::note);
+    tone.setColorAt(1, mix(palette::note, palette::ivoryShade, 0.8));
     p.fillPath(sheet, tone);
     p.strokePath(sheet, QPen(withAlpha(palette::metalEdge, 60), 0.6));
     paintTape(p);

@@ -135,12 +135,15 @@ void paintLamp(QPainter& p, const Flag& f, Look look)
                      withAlpha(Qt::white, 190));
 }
 
-/// Two arrows past each other: let go and the two change places.
-void paintArrows(QPainter& p, const QRectF& head)
+/// Let go and the two change places: a broad rim that a dragged head does not cover, and two arrows past each
+/// other.
+void paintTarget(QPainter& p, const Flag& f)
 {
+    p.strokePath(cloth(f, 1), QPen(Qt::white, 2));
+    brush::strokeRound(p, f.badge.adjusted(1, 1, -1, -1), 2, Qt::white);
     p.setPen(Qt::NoPen);
-    p.setBrush(QColor(0x06, 0x2c, 0x38));
-    const QPointF c = head.center();
+    p.setBrush(mix(palette::blueDark, Qt::black, 0.5));
+    const QPointF c = f.head.center();
     for (const double s : {-1.0, 1.0}) {
         const QPolygonF arrow({c + QPointF(s * 9, -s * 1.5 - 1.5 * s), c + QPointF(s * 5, -4.2 * s - 1.5 * s),
                                c + QPointF(s * 5, -s * 2.2 - 1.0 * s),
@@ -164,10 +167,10 @@ void paintFlag(QPainter& p, const Flag& f, Look look)
     paintPole(p, f);
     paintCloth(p, f, rimOf(look));
     paintLamp(p, f, look);
-    if (look == Look::target)
-        paintArrows(p, f.head);
     paintPlate(p, f.badge, 3, rimOf(look));
     brush::fillRound(p, f.badge.adjusted(2, 2, -2, -2), 1.5, withAlpha(Qt::black, 150));
+    if (look == Look::target)
+        paintTarget(p, f);
 }
 
 /// Lies over any of the looks while the menu is open.

@@ -147,9 +147,13 @@ void paintSheet(QPainter& p, const KeyLook& look)
 }
 
 // The same in every column, so that the light runs on from key to key.
+// Deepest under the case there is shadow yet.
 void paintShine(QPainter& p, const QColor& color, int alpha)
 {
-    brush::fadeDown(p, QRectF(0, 0, 33, 43), withAlpha(color, alpha));
+    constexpr double peak = 9, end = 43;
+    const QRectF shadow(0, 0, 33, peak), light(0, peak, 33, end - peak);
+    p.fillRect(shadow, vertical(shadow, withAlpha(color, alpha / 8), withAlpha(color, alpha)));
+    brush::fadeDown(p, light, withAlpha(color, alpha));
 }
 
 } // namespace
@@ -160,7 +164,7 @@ void addKeyPictures(std::vector<Picture>& table)
         table.push_back({QStringLiteral("Keyboard/%1.png").arg(look.name), {155, 99}, [look](QPainter& p) {
                              paintSheet(p, look);
                          }});
-    table.push_back({"INPUTblueShine.png", {33, 43}, [](QPainter& p) { paintShine(p, palette::blue, 92); }});
+    table.push_back({"INPUTblueShine.png", {33, 43}, [](QPainter& p) { paintShine(p, palette::blue, 74); }});
     table.push_back(
         {"OUTPUTyellowShine.png", {33, 43}, [](QPainter& p) { paintShine(p, palette::amber, 60); }});
 }

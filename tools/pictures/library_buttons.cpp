@@ -111,8 +111,8 @@ void paintAbbreviation(QPainter& p, bool active)
 void paintWord(QPainter& p, const QRectF& area)
 {
     constexpr const char* rows[] = {
-        "X   X XXX  XXX   XX  XXX  X X", "X   X X  X X  X X  X X  X X X", "X   X XXX  XXX  XXXX XXX   X ",
-        "X   X X  X X X  X  X X X   X ", "XXX X XXX  X  X X  X X  X  X ",
+        "#...#.###..###...##..###..#.#", "#...#.#..#.#..#.#..#.#..#.#.#", "#...#.###..###..####.###...#.",
+        "#...#.#..#.#.#..#..#.#.#...#.", "###.#.###..#..#.#..#.#..#..#.",
     };
     if (p.transform().m11() > 1) {
         brush::text(p, area, QStringLiteral("LIBRARY"), 7, true, palette::well, Qt::AlignCenter, 0.4);
@@ -120,7 +120,7 @@ void paintWord(QPainter& p, const QRectF& area)
     }
     for (int row = 0; row < 5; ++row)
         for (int column = 0; column < 29; ++column)
-            if (rows[row][column] == 'X')
+            if (rows[row][column] == '#')
                 p.fillRect(QRectF(area.left() + 5 + column, area.top() + 2 + row, 1, 1), palette::well);
 }
 

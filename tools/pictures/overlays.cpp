@@ -8,6 +8,7 @@
 namespace {
 
 using brush::mix;
+using brush::vertical;
 using brush::withAlpha;
 
 const QRectF outRod(27, 43, 907, 3), inRod(29, 298, 903, 3);
@@ -45,26 +46,58 @@ void paintLightOfInput(QPainter& p)
     spill(p, 28, 933, 301, 16, withAlpha(palette::blue, 70));
 }
 
+// The paper note sticks out over the display's rim, which throws no light on it.
+void paintRimOfDisplay(QPainter& p)
+{
+    QPainterPath room, note;
+    room.addRect(0, 0, stage::width, stage::height);
+    note.addRect(QRectF(QPointF(), stage::note.size()));
+    QTransform turn = QTransform::fromTranslate(stage::note.x(), stage::note.y());
+    turn.rotate(stage::noteAngle);
+    p.save();
+    p.setClipPath(room.subtracted(turn.map(note)));
+    brush::halo(p, stage::display.adjusted(-1, -1, 1, 1), 1, 5, withAlpha(palette::rimLight, 150));
+    p.restore();
+}
+
 void paintAwake(QPainter& p)
 {
     paintCaseShadow(p, 50);
     paintLightOfOutput(p);
     paintLightOfInput(p);
-    brush::halo(p, stage::display.adjusted(-1, -1, 1, 1), 1, 5, QColor(250, 252, 240, 150));
+    paintRimOfDisplay(p);
     brush::halo(p, stage::tonicOctave, 1, 3, withAlpha(palette::amber, 150));
     brush::halo(p, stage::scaleOctave, 1, 3, withAlpha(palette::presetIdle, 150));
 }
 
-// Dusk lies on the keys, and the light on their backs goes out.
+// Dusk lies on the keys and the ends beside them, and the light on their backs goes out.
+void paintDuskOfOutput(QPainter& p)
+{
+    const double width = stage::wellRight - stage::wellLeft;
+    const QRectF keys(stage::wellLeft, stage::outKeys.top(), width, stage::outKeys.height());
+    p.fillRect(keys, withAlpha(palette::well, 24));
+    brush::fadeDown(p, QRectF(keys.topLeft(), QSizeF(width, 46)), withAlpha(palette::well, 70));
+}
+
+// Brown takes the blue away that lies on the backs of these keys. The power button stands before them: over
+// it dusk begins and ends without an edge.
+void paintDuskOfInput(QPainter& p)
+{
+    const QRectF keys(QPointF(stage::wellLeft, stage::inKeys.top()),
+                      QPointF(stage::wellRight, stage::inKeys.bottom()));
+    const QColor brown = mix(palette::amberDark, palette::well, 0.6);
+    QLinearGradient dusk = vertical(keys, withAlpha(brown, 0), withAlpha(palette::well, 24));
+    dusk.setColorAt(0.10, withAlpha(brown, 96));
+    dusk.setColorAt(0.24, withAlpha(brown, 52));
+    dusk.setColorAt(0.44, withAlpha(palette::well, 24));
+    p.fillRect(keys, dusk);
+}
+
 void paintAsleep(QPainter& p)
 {
     paintCaseShadow(p, 90);
-    p.fillRect(stage::outKeys, withAlpha(palette::well, 24));
-    brush::fadeDown(p, QRectF(stage::outKeys.topLeft(), QSizeF(stage::outKeys.width(), 46)),
-                    withAlpha(palette::well, 70));
-    p.fillRect(stage::inKeys, withAlpha(palette::well, 24));
-    brush::fadeDown(p, QRectF(stage::inKeys.topLeft(), QSizeF(stage::inKeys.width(), 46)),
-                    withAlpha(mix(palette::amberDark, palette::well, 0.6), 130));
+    paintDuskOfOutput(p);
+    paintDuskOfInput(p);
     p.fillRect(outRod, withAlpha(Qt::black, 70));
     p.fillRect(inRod, withAlpha(Qt::black, 70));
 }

@@ -109,7 +109,7 @@ void paintLifted(QPainter& p, bool on)
     brush::strokeRound(p, square.adjusted(-1, -1, 1, 1), 4, withAlpha(Qt::white, 190));
 }
 
-// Held over a key that can take it: the key that lies below answers in the colour of active presets.
+// A flag is held over it and would change places with it: it answers in the colour of active presets.
 void paintOverTarget(QPainter& p)
 {
     brush::halo(p, clip, 3, 4, palette::presetActive);
