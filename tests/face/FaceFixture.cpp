@@ -49,6 +49,22 @@ void FaceFixture::addStatesAndWidths()
             QTest::addRow("%s at %d", qPrintable(state), width) << state << width;
 }
 
+void FaceFixture::addButtonLooks()
+{
+    QTest::addColumn<QString>("how");
+    for (const char* how : {"neutral", "hover", "pressed", "checked", "focused"})
+        QTest::newRow(how) << QString::fromLatin1(how);
+}
+
+void FaceFixture::show(QPushButton& button, const QString& how)
+{
+    button.setAttribute(Qt::WA_UnderMouse, how == QLatin1String("hover"));
+    button.setDown(how == QLatin1String("pressed"));
+    button.setChecked(how == QLatin1String("checked") && button.isCheckable());
+    if (how == QLatin1String("focused"))
+        button.setFocus(Qt::TabFocusReason);
+}
+
 void FaceFixture::enter(const QString& state)
 {
     form().versionLabel->setText(versionLine());

@@ -32,6 +32,12 @@ protected:
     static void addStates();
     /// One data row for each state at each width, in the columns "state" and "width".
     static void addStatesAndWidths();
+    /// One data row for each look of a button of the display, in the column "how".
+    static void addButtonLooks();
+    /// Gives a button one of these looks.
+    static void show(QPushButton& button, const QString& how);
+    using CenterFixture::show;
+
     /// Brings a fresh window into a state. Ports have rows that no service has opened; dialogs are shown.
     void enter(const QString& state);
     /// Rows of the port lists as a user's machine has them; each list's first one is selected.

@@ -194,23 +194,14 @@ void TestFaceContrast::textsCanBeRead()
 
 void TestFaceContrast::buttonsCanBeReadInEveryState_data()
 {
-    QTest::addColumn<QString>("how");
-    for (const char* how : {"neutral", "hover", "pressed", "checked", "focused"})
-        QTest::newRow(how) << QString::fromLatin1(how);
+    addButtonLooks();
 }
 
 void TestFaceContrast::buttonsCanBeReadInEveryState()
 {
     QFETCH(QString, how);
     for (QPushButton* button : sixButtons()) {
-        if (how == QLatin1String("hover"))
-            button->setAttribute(Qt::WA_UnderMouse);
-        else if (how == QLatin1String("pressed"))
-            button->setDown(true);
-        else if (how == QLatin1String("focused"))
-            button->setFocus(Qt::TabFocusReason);
-        else if (how == QLatin1String("checked") && button->isCheckable())
-            button->setChecked(true);
+        show(*button, how);
         QVector<FaceText> texts;
         const auto all = face_texts::all(*window, nullptr);
         for (const FaceText& text : all)

@@ -88,9 +88,7 @@ void TestFaceLabels::fontIsTheOneThatCounts()
 
 void TestFaceLabels::buttonsHoldTheirTexts_data()
 {
-    QTest::addColumn<QString>("how");
-    for (const char* how : {"neutral", "hover", "pressed", "checked", "focused"})
-        QTest::newRow(how) << QString::fromLatin1(how);
+    addButtonLooks();
 }
 
 void TestFaceLabels::buttonsHoldTheirTexts()
@@ -98,11 +96,7 @@ void TestFaceLabels::buttonsHoldTheirTexts()
     QFETCH(QString, how);
     constexpr int air = 4; // on each side, within the plate's rim
     for (QPushButton* button : sixButtons()) {
-        button->setAttribute(Qt::WA_UnderMouse, how == QLatin1String("hover"));
-        button->setDown(how == QLatin1String("pressed"));
-        button->setChecked(how == QLatin1String("checked") && button->isCheckable());
-        if (how == QLatin1String("focused"))
-            button->setFocus(Qt::TabFocusReason);
+        show(*button, how);
         button->ensurePolished();
         const QString shown = QString(button->text()).replace(QLatin1String("&&"), QLatin1String("&"));
         const QFontMetrics metrics(button->font());
