@@ -36,12 +36,12 @@ QString densePath(const QString& path)
 QString paintAll(const QDir& folder)
 {
     for (const Picture& picture : allPictures()) {
-        const QString path = folder.filePath(picture.path);
+        QString path = folder.filePath(picture.path);
         if (!save(paintPicture(picture, 1), path) || !save(paintPicture(picture, 2), densePath(path)))
             return path;
     }
     for (const int size : iconSizes) {
-        const QString path = folder.filePath(iconPath(size));
+        QString path = folder.filePath(iconPath(size));
         const QImage icon = paintIcon(size);
         if (icon.isNull() || !save(icon, path))
             return path;
