@@ -243,6 +243,15 @@ QImage render(QWidget& widget, int ratio)
     return picture;
 }
 
+Grounds withAndWithout(const QVector<FaceText>& texts, QWidget& widget, int ratio)
+{
+    const QImage with = render(widget, ratio);
+    for (const FaceText& text : texts)
+        text.erase();
+    QCoreApplication::sendPostedEvents();
+    return {with, render(widget, ratio)};
+}
+
 QRect scaled(const QRectF& box, int ratio)
 {
     return QRectF(box.topLeft() * ratio, box.size() * ratio).toAlignedRect();

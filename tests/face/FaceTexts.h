@@ -33,6 +33,13 @@ namespace face_texts {
 /// whole pixels of their ink from 3 on.
 [[nodiscard]] QImage render(QWidget& widget, int ratio);
 
+/// The window with its texts, and without them: these are erased for good.
+struct Grounds
+{
+    QImage with, without;
+};
+[[nodiscard]] Grounds withAndWithout(const QVector<FaceText>& texts, QWidget& widget, int ratio);
+
 /// A rectangle of the window in such a picture.
 [[nodiscard]] QRect scaled(const QRectF& box, int ratio);
 

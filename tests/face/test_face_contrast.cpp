@@ -163,11 +163,7 @@ void TestFaceContrast::readingFindsInkAndGround()
 
 QStringList TestFaceContrast::unreadable(const QVector<FaceText>& texts)
 {
-    const QImage with = face_texts::render(*window, dense);
-    for (const FaceText& text : texts)
-        text.erase();
-    QCoreApplication::sendPostedEvents();
-    const QImage without = face_texts::render(*window, dense);
+    const auto [with, without] = face_texts::withAndWithout(texts, *window, dense);
     QStringList faults;
     for (const FaceText& text : texts) {
         const QRect box = face_texts::scaled(text.box, dense);

@@ -72,12 +72,7 @@ void paintDisplay(QPainter& p)
     p.fillRect(pane.adjusted(-1, -1, 1, 1), palette::gap);
     p.fillRect(pane, palette::display);
     p.fillRect(QRectF(pane.left(), 274, pane.width(), 6), palette::displayShade);
-    brush::fadeDown(p, QRectF(pane.topLeft(), QSizeF(pane.width(), 7)), withAlpha(Qt::black, 80));
-    for (int i = 0; i < 4; ++i) {
-        const QColor shade = withAlpha(Qt::black, 32 - 8 * i);
-        p.fillRect(QRectF(pane.left() + i, pane.top(), 1, pane.height()), shade);
-        p.fillRect(QRectF(pane.right() - 1 - i, pane.top(), 1, pane.height()), shade);
-    }
+    brush::shadeOfFrame(p, pane);
 }
 
 void paintPanel(QPainter& p, const QRectF& area, const QRectF& octave, double captionLeft,
@@ -88,9 +83,7 @@ void paintPanel(QPainter& p, const QRectF& area, const QRectF& octave, double ca
     const QColor ground = mix(palette::metalDark, palette::metal, 0.45);
     brush::fillRound(p, area, 5, vertical(area, mix(ground, Qt::black, 0.12), ground));
     p.save();
-    QPainterPath tray;
-    tray.addRoundedRect(area, 5, 5);
-    p.setClipPath(tray);
+    brush::clipRound(p, area, 5);
     brush::brushed(p, area, 6);
     brush::fadeDown(p, QRectF(area.topLeft(), QSizeF(area.width(), 6)), withAlpha(Qt::black, 80));
     p.restore();

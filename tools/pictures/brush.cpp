@@ -89,11 +89,26 @@ void recess(QPainter& painter, const QRectF& area, double radius, const QColor& 
     fillRound(painter, area.adjusted(-1, -1, 1, 1), radius + 1, withAlpha(Qt::black, 120));
     fillRound(painter, area, radius, vertical(area, top, bottom));
     painter.save();
-    painter.setClipPath(roundPath(area, radius));
+    clipRound(painter, area, radius);
     fadeDown(painter, QRectF(area.topLeft(), QSizeF(area.width(), 7)), withAlpha(Qt::black, 170));
     for (int i = 0; i < 2; ++i) // the walls shade the ground beside them
         strokeRound(painter, area.adjusted(i, -4, -i, 4), radius, withAlpha(Qt::black, 60 - 25 * i));
     painter.restore();
+}
+
+void shadeOfFrame(QPainter& painter, const QRectF& pane)
+{
+    fadeDown(painter, QRectF(pane.topLeft(), QSizeF(pane.width(), 7)), withAlpha(Qt::black, 80));
+    for (int i = 0; i < 4; ++i) {
+        const QColor shade = withAlpha(Qt::black, 32 - 8 * i);
+        painter.fillRect(QRectF(pane.left() + i, pane.top(), 1, pane.height()), shade);
+        painter.fillRect(QRectF(pane.right() - 1 - i, pane.top(), 1, pane.height()), shade);
+    }
+}
+
+void clipRound(QPainter& painter, const QRectF& area, double radius)
+{
+    painter.setClipPath(roundPath(area, radius));
 }
 
 void halo(QPainter& painter, const QRectF& area, double radius, double reach, const QColor& color)

@@ -21,6 +21,10 @@ void fillRound(QPainter& painter, const QRectF& area, double radius, const QBrus
 void strokeRound(QPainter& painter, const QRectF& area, double radius, const QColor& color);
 /// A recess in the case: dark ground, shadow under its upper edge, light on its lower lip.
 void recess(QPainter& painter, const QRectF& area, double radius, const QColor& top, const QColor& bottom);
+/// What a display's frame throws on the pane that lies deep in it.
+void shadeOfFrame(QPainter& painter, const QRectF& pane);
+/// Keeps what is painted from now on within an area with round corners.
+void clipRound(QPainter& painter, const QRectF& area, double radius);
 /// A soft light, or with a dark colour a soft shadow, around an area and outside it only.
 void halo(QPainter& painter, const QRectF& area, double radius, double reach, const QColor& color);
 /// Fine streaks along the length of brushed metal.

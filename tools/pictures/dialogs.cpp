@@ -30,9 +30,7 @@ void paintPlate(QPainter& p, const QRectF& plate)
     brush::fillRound(p, plate, 7, palette::well);
     const QRectF face = plate.adjusted(1, 1, -1, -1);
     p.save();
-    QPainterPath outline;
-    outline.addRoundedRect(face, 6, 6);
-    p.setClipPath(outline);
+    brush::clipRound(p, face, 6);
     p.fillRect(face, vertical(face, mix(palette::metal, palette::metalLight, 0.85),
                               mix(palette::metal, palette::metalDark, 0.55)));
     brush::brushed(p, face, 9);
@@ -51,12 +49,7 @@ void paintField(QPainter& p, const QRectF& field)
     p.fillRect(field.adjusted(-1, -1, 1, 1), palette::gap);
     p.fillRect(field, mix(palette::display, Qt::white, 0.2));
     brush::fadeDown(p, QRectF(field.topLeft(), QSizeF(field.width(), 60)), withAlpha(Qt::white, 70));
-    brush::fadeDown(p, QRectF(field.topLeft(), QSizeF(field.width(), 7)), withAlpha(Qt::black, 80));
-    for (int i = 0; i < 4; ++i) {
-        const QColor shade = withAlpha(Qt::black, 32 - 8 * i);
-        p.fillRect(QRectF(field.left() + i, field.top(), 1, field.height()), shade);
-        p.fillRect(QRectF(field.right() - 1 - i, field.top(), 1, field.height()), shade);
-    }
+    brush::shadeOfFrame(p, field);
 }
 
 void paintPanel(QPainter& p, const QSizeF& size)

@@ -37,9 +37,7 @@ void paintSunk(QPainter& p, const QRectF& plate, double radius)
     brush::fillRound(p, plate, radius, vertical(plate, mix(palette::ink, palette::well, 0.85), palette::ink));
     const QRectF face = inside(plate);
     p.save();
-    QPainterPath room;
-    room.addRoundedRect(face, radius - 1, radius - 1);
-    p.setClipPath(room);
+    brush::clipRound(p, face, radius - 1);
     p.fillRect(face, vertical(face, mix(palette::ink, palette::well, 0.45), sunkGround()));
     brush::fadeDown(p, QRectF(face.topLeft(), QSizeF(face.width(), 6)), withAlpha(Qt::black, 120));
     p.fillRect(QRectF(face.left(), face.top(), 1, face.height()), withAlpha(Qt::black, 40));
@@ -76,9 +74,7 @@ void paintPane(QPainter& p, const QRectF& area, double radius, const QColor& gro
         vertical(area, mix(palette::ink, palette::display, 0.12), mix(palette::ink, palette::display, 0.48)));
     const QRectF floor = inside(area);
     p.save();
-    QPainterPath room;
-    room.addRoundedRect(floor, radius - 1, radius - 1);
-    p.setClipPath(room);
+    brush::clipRound(p, floor, radius - 1);
     p.fillRect(floor, ground);
     brush::fadeDown(p, QRectF(floor.topLeft(), QSizeF(floor.width(), 3)), withAlpha(palette::ink, 100));
     p.fillRect(QRectF(floor.left(), floor.top(), 1, floor.height()), withAlpha(palette::ink, 26));

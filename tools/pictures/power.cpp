@@ -52,9 +52,7 @@ void paintLens(QPainter& p, bool on)
     const QColor full = on ? palette::ember : mix(palette::graphite, palette::graphiteLight, 0.5);
     brush::fillRound(p, square, 3, vertical(square, mix(full, dark, 0.15), mix(full, dark, 0.55)));
     p.save();
-    QPainterPath pane;
-    pane.addRoundedRect(square, 3, 3);
-    p.setClipPath(pane);
+    brush::clipRound(p, square, 3);
     if (on) {
         QRadialGradient light(symbol, 11);
         light.setColorAt(0, withAlpha(palette::emberLight, 235));
@@ -82,9 +80,7 @@ void paintButton(QPainter& p, bool on)
 void paintPress(QPainter& p)
 {
     brush::fillRound(p, square, 3, withAlpha(Qt::black, 45));
-    QPainterPath pane;
-    pane.addRoundedRect(square, 3, 3);
-    p.setClipPath(pane);
+    brush::clipRound(p, square, 3);
     brush::fadeDown(p, QRectF(3, 3, 13, 14), withAlpha(Qt::black, 190));
     for (int i = 0; i < 2; ++i)
         brush::strokeRound(p, square.adjusted(i, i, -i, 6), 3, withAlpha(Qt::black, 110 - 60 * i));
