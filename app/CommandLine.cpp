@@ -13,40 +13,45 @@ namespace {
 
 QList<QCommandLineOption> options()
 {
-    const auto tr = [](const char* text) { return QCoreApplication::translate("CommandLine", text); };
     return {
-        {"headless", tr("Run without a window.")},
-        {"power", tr("Set the power at start: on or off."), "on|off"},
-        {"tonic", tr("Set the tonic at start: C, C#, D, ... B."), "NAME"},
+        // Not addHelpOption(): it would list a --help-all for options that the program does not have.
+        {{"h", "help"}, CommandLine::tr("Print this help and end.")},
+        {{"v", "version"}, CommandLine::tr("Print the version and end.")},
+        {"headless", CommandLine::tr("Run without a window.")},
+        {"power", CommandLine::tr("Set the power at start: on or off."), "on|off"},
+        {"tonic", CommandLine::tr("Set the tonic at start: C, C#, D, ... B."), "NAME"},
         {"scale",
-         tr("Set the scale at start: twelve letters, x for a note of the scale and o for none, the "
-            "tonic first."),
+         CommandLine::tr(
+             "Set the scale at start: twelve letters, x for a note of the scale and o for none, the "
+             "tonic first."),
          "WORD"},
-        {"in", tr("Open this input port; repeatable. A unique part of the name will do."), "NAME"},
-        {"out", tr("Open this output port; repeatable. A unique part of the name will do."), "NAME"},
-        {"no-virtual", tr("Do not open Sorvane's own virtual ports.")},
-        {"list-ports", tr("Print the MIDI ports of both directions and end.")},
-        {"midi-api", tr("Use this MIDI back end: alsa or jack (also: SORVANE_MIDI_API)."), "alsa|jack"},
-        {"import", tr("Take up the state in this database file at start."), "FILE"},
-        {"export", tr("Write the state into this database file at the end."), "FILE"},
-        {"session", tr("Go on where this file left off, if it exists, and write it at the end."), "FILE"},
+        {"in", CommandLine::tr("Open this input port; repeatable. A unique part of the name will do."),
+         "NAME"},
+        {"out", CommandLine::tr("Open this output port; repeatable. A unique part of the name will do."),
+         "NAME"},
+        {"no-virtual", CommandLine::tr("Do not open Sorvane's own virtual ports.")},
+        {"list-ports", CommandLine::tr("Print the MIDI ports of both directions and end.")},
+        {"midi-api", CommandLine::tr("Use this MIDI back end: alsa or jack (also: SORVANE_MIDI_API)."),
+         "alsa|jack"},
+        {"import", CommandLine::tr("Take up the state in this database file at start."), "FILE"},
+        {"export", CommandLine::tr("Write the state into this database file at the end."), "FILE"},
+        {"session", CommandLine::tr("Go on where this file left off, if it exists, and write it at the end."),
+         "FILE"},
         {"log",
-         tr("Write a log file, of entries of this level and graver ones, as in --log=warn: all, debug, diag, "
-            "info, warn, error or fatal. --log alone means --log=error."),
+         CommandLine::tr("Write a log file, of entries of this level and graver ones, as in --log=warn: all, "
+                         "debug, diag, info, warn, error or fatal. --log alone means --log=error."),
          "LEVEL"},
-        {"debug", tr("Let the program's debug lines through.")},
+        {"debug", CommandLine::tr("Let the program's debug lines through.")},
     };
 }
 
 void addOptions(QCommandLineParser& parser)
 {
-    const auto tr = [](const char* text) { return QCoreApplication::translate("CommandLine", text); };
-    parser.setApplicationDescription(tr("Plays any tonic and scale on the white keys of a MIDI keyboard."));
-    // Not addHelpOption(): it would list a --help-all for options that the program does not have.
-    parser.addOption({{"h", "help"}, tr("Print this help and end.")});
-    parser.addVersionOption();
+    parser.setApplicationDescription(
+        CommandLine::tr("Plays any tonic and scale on the white keys of a MIDI keyboard."));
     parser.addOptions(options());
-    parser.addPositionalArgument("qv_simple_logging", tr("Write log lines without time and number."),
+    parser.addPositionalArgument("qv_simple_logging",
+                                 CommandLine::tr("Write log lines without time and number."),
                                  "[qv_simple_logging]");
 }
 
@@ -89,16 +94,15 @@ QString tonicNames()
 /// Fills the full names in; the text says what is wrong with the first name that fits none or several.
 QString resolve(QStringList& wanted, const QStringList& rows, const QString& option)
 {
-    const auto tr = [](const char* text) { return QCoreApplication::translate("CommandLine", text); };
     for (QString& name : wanted) {
         if (rows.contains(name))
             continue;
         QStringList matches = name.isEmpty() ? QStringList() : rows.filter(name);
         matches.removeDuplicates();
         if (matches.isEmpty())
-            return tr("%1: there is no port \"%2\" (see --list-ports)").arg(option, name);
+            return CommandLine::tr("%1: there is no port \"%2\" (see --list-ports)").arg(option, name);
         if (matches.size() > 1)
-            return tr("%1: \"%2\" is a part of several port names: %3")
+            return CommandLine::tr("%1: \"%2\" is a part of several port names: %3")
                 .arg(option, name, matches.join(QStringLiteral(", ")));
         name = matches.first();
     }
