@@ -1,6 +1,7 @@
 // The credits on the display: where the lines stand, how they move, and that they go on for ever.
 
 #include "CenterFixture.h"
+#include "app/version.h"
 
 #include <QPainter>
 
@@ -313,7 +314,8 @@ void TestCenterCredits::resetShowsEveryLine()
 void TestCenterCredits::noLineIsSeenBehindTheVersion()
 {
     form().versionLabel->setText(
-        QStringLiteral("Sorvane 0.1.0, <a href=\"https://sorvane.example/\">https://sorvane.example/</a>"));
+        QStringLiteral("Sorvane %1, <a href=\"https://sorvane.example/\">https://sorvane.example/</a>")
+            .arg(QLatin1String(sorvaneVersion)));
     show();
     screen().creditLines = QStringList(QString(40, QLatin1Char('W')));
     call(to_credits);

@@ -1,6 +1,7 @@
 // The hit areas around the display: who gets a click at which place in which scene.
 
 #include "CenterFixture.h"
+#include "app/version.h"
 
 namespace {
 
@@ -263,7 +264,8 @@ void TestCenterHits::clickOnTheCreditsDoesNothing()
 void TestCenterHits::versionLinkCanBeClicked()
 {
     form().versionLabel->setText(
-        QStringLiteral("Sorvane 0.1.0, <a href=\"https://sorvane.example/\">sorvane.example</a>"));
+        QStringLiteral("Sorvane %1, <a href=\"https://sorvane.example/\">sorvane.example</a>")
+            .arg(QLatin1String(sorvaneVersion)));
     form().versionLabel->setOpenExternalLinks(false);
     go(to_credits);
     QSignalSpy spy(form().versionLabel, &QLabel::linkActivated);
