@@ -16,7 +16,6 @@
 #include <RtMidi.h>
 
 #include <array>
-#include <memory>
 #include <vector>
 
 class CenterScreen;

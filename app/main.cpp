@@ -7,8 +7,9 @@
 #include "app/version.h"
 #include "app/window_icon.h"
 #include "logging/QtMessages.h"
-#include "logging/categories.h"
 #include "logging/log_file.h"
+
+#include <QLoggingCategory>
 
 #include <cstdio>
 

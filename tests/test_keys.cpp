@@ -11,8 +11,6 @@
 #include <QGraphicsItemGroup>
 #include <QtTest>
 
-#include <array>
-
 class TestKeys : public QObject
 {
     Q_OBJECT

@@ -8,7 +8,6 @@
 #include "contrast.h"
 #include "keys/TonicKeyItem.h"
 #include "keys/pictures.h"
-#include "keys/tonic_names.h"
 #include "library/default_tables.h"
 #include "painted.h"
 #include "screen/library_name.h"

@@ -5,7 +5,6 @@
 
 #include <QStringList>
 
-#include <memory>
 #include <random>
 
 class DatabaseLibrary;

@@ -6,8 +6,6 @@
 #include <QStringList>
 #include <QVector>
 
-#include <limits>
-
 namespace json_mutator {
 namespace {
 

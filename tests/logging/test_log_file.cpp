@@ -3,11 +3,11 @@
 #include "LogFixture.h"
 
 #include "logging/LoggerObserver.h"
-#include "logging/categories.h"
 #include "logging/log_file.h"
 
 #include <QDateTime>
 #include <QDir>
+#include <QLoggingCategory>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>

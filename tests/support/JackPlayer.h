@@ -7,7 +7,6 @@
 #include <jack/ringbuffer.h>
 #include <jack/types.h>
 
-#include <atomic>
 #include <memory>
 
 /// A native JACK client with one MIDI output, which it plays, and one MIDI input, which it records.

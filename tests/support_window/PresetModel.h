@@ -8,7 +8,6 @@
 #include <map>
 #include <string>
 #include <utility>
-#include <vector>
 
 /// What the presets and the selectors must hold after any sequence of what a player can do, told
 /// independently of the program: plain words and numbers, no items, no library. Without anchors.
