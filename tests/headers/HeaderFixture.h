@@ -46,6 +46,8 @@ protected:
     DatabaseLibrary& library() const { return window->library; }
     TonicKeyController& tonic() const { return *static_cast<TonicKeyController*>(window->tonicController); }
     ScaleKeyController& scale() const { return *static_cast<ScaleKeyController*>(window->scaleController); }
+    ResizableItem* in(int note) const { return window->findInNote(note); }
+    ResizableItem* out(int note) const { return static_cast<ResizableItem*>(in(note)->pairedOutKey); }
     int target(int note) const { return key_roles::target(window->findInNote(note)); }
     /// Everything that a preset or a selector may change.
     QStringList state() const;

@@ -41,8 +41,8 @@ private slots:
     void keysOfAHiddenListDoNothing();
 
 private:
-    PortListWidget& in() const { return *static_cast<PortListWidget*>(screen().inPortList); }
-    PortListWidget& out() const { return *static_cast<PortListWidget*>(screen().outPortList); }
+    PortListWidget& inList() const { return *static_cast<PortListWidget*>(screen().inPortList); }
+    PortListWidget& outList() const { return *static_cast<PortListWidget*>(screen().outPortList); }
     void addRows(int count) const;
     static QString selected(const QListWidget& list);
     static void press(int key) { QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key)); }
@@ -93,13 +93,13 @@ void TestPortLists::clickRow(const QListWidget& list, int row, Qt::MouseButton m
 void TestPortLists::rowsStandInTheirOrder()
 {
     addRows(3);
-    QCOMPARE(rows(in()), QStringList({"Sorvane MIDI In", "Keys 1", "Keys 2", "Keys 3"}));
-    QCOMPARE(rows(out()), QStringList({"Sorvane MIDI Out", "Sound 1", "Sound 2", "Sound 3"}));
+    QCOMPARE(rows(inList()), QStringList({"Sorvane MIDI In", "Keys 1", "Keys 2", "Keys 3"}));
+    QCOMPARE(rows(outList()), QStringList({"Sorvane MIDI Out", "Sound 1", "Sound 2", "Sound 3"}));
     for (int row = 0; row < 4; ++row) {
-        QCOMPARE(screen().getInPort(row), in().item(row)->text());
-        QCOMPARE(screen().getOutPort(row), out().item(row)->text());
+        QCOMPARE(screen().getInPort(row), inList().item(row)->text());
+        QCOMPARE(screen().getOutPort(row), outList().item(row)->text());
     }
-    QCOMPARE(selected(in()), QStringLiteral("x---"));
+    QCOMPARE(selected(inList()), QStringLiteral("x---"));
 }
 
 // Two names that differ only far behind the edge look alike; neither makes the list scroll sideways.
@@ -107,7 +107,7 @@ void TestPortLists::longNamesAreElided()
 {
     call(to_ports);
     const QString head(60, QLatin1Char('m'));
-    for (PortListWidget* list : {&in(), &out()}) {
+    for (PortListWidget* list : {&inList(), &outList()}) {
         list->clear();
         const auto paintedRow = [list](const QString& name) {
             list->clear();
@@ -138,7 +138,7 @@ void TestPortLists::rowsAreAsWideAsTheListAndSayTheirName()
     screen().addInPort(name, false);
     screen().addOutPort(name, false);
     call(to_ports);
-    for (const PortListWidget* list : {&in(), &out()})
+    for (const PortListWidget* list : {&inList(), &outList()})
         for (int row = 0; row < list->count(); ++row) {
             QCOMPARE(list->item(row)->toolTip(), list->item(row)->text());
             const QRect place = list->visualItemRect(list->item(row));
@@ -152,18 +152,19 @@ void TestPortLists::manyRowsScroll()
 {
     addRows(30);
     call(to_ports);
-    QVERIFY(in().verticalScrollBar()->maximum() > 0);
+    QVERIFY(inList().verticalScrollBar()->maximum() > 0);
     openByKeys();
     press(Qt::Key_End);
-    QCOMPARE(in().currentRow(), 30);
-    QVERIFY(in().viewport()->rect().contains(in().visualItemRect(in().item(30))));
+    QCOMPARE(inList().currentRow(), 30);
+    QVERIFY(inList().viewport()->rect().contains(inList().visualItemRect(inList().item(30))));
 }
 
 void TestPortLists::listsAreHiddenInEveryOtherScene()
 {
     for (int setter = to_default; setter <= to_library; ++setter) {
         call(setter);
-        QCOMPARE(in().isVisible() && out().isVisible() && portPicture()->isVisible(), setter == to_ports);
+        QCOMPARE(inList().isVisible() && outList().isVisible() && portPicture()->isVisible(),
+                 setter == to_ports);
     }
 }
 
@@ -171,7 +172,7 @@ void TestPortLists::clickTogglesARow()
 {
     addRows(2);
     call(to_ports);
-    for (PortListWidget* list : {&in(), &out()}) {
+    for (PortListWidget* list : {&inList(), &outList()}) {
         clickRow(*list, 1);
         QCOMPARE(selected(*list), QStringLiteral("xx-"));
         clickRow(*list, 2);
@@ -189,9 +190,9 @@ void TestPortLists::clickLeavesTheFocusInTheInView()
     addRows(2);
     call(to_ports);
     for (const int row : {1, 2, 1}) {
-        clickRow(in(), row);
+        clickRow(inList(), row);
         QVERIFY(inView()->hasFocus());
-        clickRow(out(), row);
+        clickRow(outList(), row);
         QVERIFY(inView()->hasFocus());
     }
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
@@ -202,24 +203,24 @@ void TestPortLists::otherButtonsOfThePointerToggleNothing()
 {
     addRows(1);
     call(to_ports);
-    clickRow(in(), 1, Qt::RightButton);
-    clickRow(in(), 0, Qt::MiddleButton);
-    QCOMPARE(selected(in()), QStringLiteral("x-"));
+    clickRow(inList(), 1, Qt::RightButton);
+    clickRow(inList(), 0, Qt::MiddleButton);
+    QCOMPARE(selected(inList()), QStringLiteral("x-"));
 }
 
 void TestPortLists::focusedListHasACurrentRow()
 {
     addRows(2);
-    in().item(0)->setSelected(false);
+    inList().item(0)->setSelected(false);
     openByKeys();
-    QVERIFY(in().hasFocus());
-    QCOMPARE(in().currentRow(), 0);
-    QCOMPARE(selected(in()), QStringLiteral("---")); // being current selects nothing
-    in().clear();
+    QVERIFY(inList().hasFocus());
+    QCOMPARE(inList().currentRow(), 0);
+    QCOMPARE(selected(inList()), QStringLiteral("---")); // being current selects nothing
+    inList().clear();
     inView()->setFocus();
     openByKeys();
-    QVERIFY(in().hasFocus());
-    QCOMPARE(in().currentRow(), -1);
+    QVERIFY(inList().hasFocus());
+    QCOMPARE(inList().currentRow(), -1);
     press(Qt::Key_Return);
     press(Qt::Key_Down);
 }
@@ -231,10 +232,10 @@ void TestPortLists::upAndDownMoveTheCurrentRow()
     QList<int> current;
     for (const int key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up}) {
         press(key);
-        current << in().currentRow();
+        current << inList().currentRow();
     }
     QCOMPARE(current, QList<int>({1, 2, 2, 1, 0, 0}));
-    QCOMPARE(selected(in()), QStringLiteral("x--"));
+    QCOMPARE(selected(inList()), QStringLiteral("x--"));
 }
 
 void TestPortLists::leftAndRightChangeTheList()
@@ -243,12 +244,12 @@ void TestPortLists::leftAndRightChangeTheList()
     openByKeys();
     for (const int key : {Qt::Key_Right, Qt::Key_Left}) {
         press(key);
-        QVERIFY(out().hasFocus());
-        QCOMPARE(out().currentRow(), 0);
+        QVERIFY(outList().hasFocus());
+        QCOMPARE(outList().currentRow(), 0);
         press(key);
-        QVERIFY(in().hasFocus());
+        QVERIFY(inList().hasFocus());
     }
-    QCOMPARE(selected(in()) + selected(out()), QStringLiteral("x-x-"));
+    QCOMPARE(selected(inList()) + selected(outList()), QStringLiteral("x-x-"));
 }
 
 void TestPortLists::returnAndEnterToggleAndStay_data()
@@ -266,16 +267,16 @@ void TestPortLists::returnAndEnterToggleAndStay()
     press(Qt::Key_Down);
     for (const char* expected : {"xx-", "x--", "xx-"}) {
         press(key);
-        QCOMPARE(selected(in()), QLatin1String(expected));
-        QVERIFY(in().hasFocus());
-        QCOMPARE(in().currentRow(), 1);
+        QCOMPARE(selected(inList()), QLatin1String(expected));
+        QVERIFY(inList().hasFocus());
+        QCOMPARE(inList().currentRow(), 1);
     }
     press(Qt::Key_Right);
     press(Qt::Key_Down);
     press(key);
-    QCOMPARE(selected(out()), QStringLiteral("xx-"));
-    QVERIFY(out().hasFocus());
-    QCOMPARE(selected(in()), QStringLiteral("xx-"));
+    QCOMPARE(selected(outList()), QStringLiteral("xx-"));
+    QVERIFY(outList().hasFocus());
+    QCOMPARE(selected(inList()), QStringLiteral("xx-"));
     QCOMPARE(screen().currentScene, 3);
 }
 
@@ -289,19 +290,19 @@ void TestPortLists::escapeGivesTheKeyboardBack()
     press(Qt::Key_Right);
     press(Qt::Key_Escape);
     QVERIFY(inView()->hasFocus());
-    QCOMPARE(selected(in()) + selected(out()), QStringLiteral("xx"));
+    QCOMPARE(selected(inList()) + selected(outList()), QStringLiteral("xx"));
 }
 
 void TestPortLists::keysReachOnlyTheFocusedList()
 {
     addRows(1);
     call(to_ports);
-    in().setCurrentRow(1, QItemSelectionModel::NoUpdate);
-    out().setCurrentRow(1, QItemSelectionModel::NoUpdate);
+    inList().setCurrentRow(1, QItemSelectionModel::NoUpdate);
+    outList().setCurrentRow(1, QItemSelectionModel::NoUpdate);
     inView()->setFocus();
     for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape})
         press(key);
-    QCOMPARE(selected(in()) + selected(out()), QStringLiteral("x-x-"));
+    QCOMPARE(selected(inList()) + selected(outList()), QStringLiteral("x-x-"));
     QVERIFY(inView()->hasFocus());
 }
 
@@ -311,8 +312,8 @@ void TestPortLists::typingMovesNothing()
     openByKeys();
     for (const int key : {Qt::Key_K, Qt::Key_S, Qt::Key_2})
         press(key);
-    QCOMPARE(in().currentRow(), 0);
-    QCOMPARE(selected(in()), QStringLiteral("x---"));
+    QCOMPARE(inList().currentRow(), 0);
+    QCOMPARE(selected(inList()), QStringLiteral("x---"));
 }
 
 void TestPortLists::spaceTogglesThePowerAndNoRow()
@@ -321,9 +322,9 @@ void TestPortLists::spaceTogglesThePowerAndNoRow()
     openByKeys();
     press(Qt::Key_Down);
     for (const bool wanted : {true, false}) {
-        QTest::keyClick(&in(), Qt::Key_Space);
+        QTest::keyClick(&inList(), Qt::Key_Space);
         QCOMPARE(window->isPowerOn(), wanted);
-        QCOMPARE(selected(in()), QStringLiteral("x-"));
+        QCOMPARE(selected(inList()), QStringLiteral("x-"));
         QCOMPARE(look(), QStringLiteral("ports left"));
     }
 }
@@ -336,8 +337,8 @@ void TestPortLists::keyboardAloneOpensAPort()
     for (const int key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return, Qt::Key_Left,
                           Qt::Key_Down, Qt::Key_Return, Qt::Key_Escape})
         press(key);
-    QCOMPARE(selected(in()), QStringLiteral("xx-"));
-    QCOMPARE(selected(out()), QStringLiteral("x-x"));
+    QCOMPARE(selected(inList()), QStringLiteral("xx-"));
+    QCOMPARE(selected(outList()), QStringLiteral("x-x"));
     QVERIFY(SettingsStore::getMidiInPortSelected(QStringLiteral("Keys 1"), false));
     QVERIFY(SettingsStore::getMidiOutPortSelected(QStringLiteral("Sound 2"), false));
     QVERIFY(!SettingsStore::getMidiOutPortSelected(QStringLiteral("Sound 1"), true));
@@ -348,9 +349,9 @@ void TestPortLists::keysOfAHiddenListDoNothing()
 {
     openByKeys();
     call(to_default);
-    QVERIFY(!in().hasFocus());
+    QVERIFY(!inList().hasFocus());
     press(Qt::Key_Return);
-    QCOMPARE(selected(in()), QStringLiteral("x"));
+    QCOMPARE(selected(inList()), QStringLiteral("x"));
 }
 
 QTEST_MAIN(TestPortLists)

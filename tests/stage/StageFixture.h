@@ -18,8 +18,6 @@ private slots:
 protected:
     void openStage();
 
-    ResizableItem* in(int note) const { return window->findInNote(note); }
-    ResizableItem* out(int note) const { return static_cast<ResizableItem*>(in(note)->pairedOutKey); }
     DiagramScene* outScene() const;
 
     // What was heard

@@ -1,16 +1,14 @@
-// The port lists, what of them is remembered, and the settings behind that, without any MIDI service.
+// What a change of a port list opens, closes and remembers, without any MIDI service.
 
 #include "RecordingPort.h"
-#include "app/MainWnd.h"
-#include "app/MidiService.h"
+#include "WindowFixture.h"
 #include "keys/ResizableItem.h"
 #include "library/SettingsStore.h"
 #include "screen/CenterScreen.h"
 
 #include <QSignalSpy>
-#include <QtTest>
 
-class TestPorts : public QObject
+class TestPorts : public WindowFixture
 {
     Q_OBJECT
 
@@ -22,7 +20,6 @@ private slots:
     void virtualRowsAreSelectedOnAFirstRun();
     void addedRowTriggersNothingAtOnce();
     void rowTextOfAMissingRowIsEmpty();
-    void clickTogglesARowAndSeveralCanBeSelected();
     void deselectingTheLastOutputClosesMidiOut();
     void openRowIsPassedOver();
     void selectionIsStoredByName();
@@ -33,23 +30,15 @@ private slots:
     void stoppedServiceClosesEverySlot();
     void playingGoesOnWithoutService();
 
-    void registeredPropertyNeverOverrides();
-    void setPropertyReplaces();
-    void unknownPortGivesItsFallback();
-    void defaultKeysStandInOrder();
-
 private:
     RecordingPort* openRecordingPort(int row);
-
-    std::unique_ptr<MainWnd> window;
 };
 
 void TestPorts::init()
 {
-    midiService().choose(MidiService::Wanted::none);
     SettingsStore::setMidiInPortSelected(virtualInName, true);
     SettingsStore::setMidiOutPortSelected(virtualOutName, true);
-    window = std::make_unique<MainWnd>();
+    openWindow();
 }
 
 RecordingPort* TestPorts::openRecordingPort(int row)
@@ -91,24 +80,6 @@ void TestPorts::rowTextOfAMissingRowIsEmpty()
 {
     QCOMPARE(window->centerScreen->getInPort(7), QString());
     QCOMPARE(window->centerScreen->getOutPort(-1), QString());
-}
-
-void TestPorts::clickTogglesARowAndSeveralCanBeSelected()
-{
-    QListWidget* list = window->centerScreen->inPortList;
-    window->inPorts.append(nullptr);
-    window->centerScreen->addInPort(QStringLiteral("Pads"), false);
-    window->show();
-    window->centerScreen->setSceneMIDIinOut();
-    const auto clickRow = [list](int row) {
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                          list->visualItemRect(list->item(row)).center());
-    };
-    clickRow(1);
-    QCOMPARE(list->selectedItems().size(), 2);
-    clickRow(0);
-    QCOMPARE(list->selectedItems().size(), 1);
-    QVERIFY(list->item(1)->isSelected());
 }
 
 void TestPorts::deselectingTheLastOutputClosesMidiOut()
@@ -192,45 +163,6 @@ void TestPorts::playingGoesOnWithoutService()
     QVERIFY(window->findInNote(60)->isPushed);
     emit window->signalKey({0x80, 60, 0});
     QVERIFY(!window->findInNote(60)->isPushed);
-}
-
-void TestPorts::registeredPropertyNeverOverrides()
-{
-    SettingsStore::setSettingsProperty(QStringLiteral("k"), 1);
-    SettingsStore::registerSettingProperty(QStringLiteral("k"), 2);
-    QCOMPARE(SettingsStore::settingsProperty(QStringLiteral("k"), 0).toInt(), 1);
-    SettingsStore::registerSettingProperty(QString(), 2);
-    QVERIFY(!SettingsStore::containsProperty(QString()));
-}
-
-void TestPorts::setPropertyReplaces()
-{
-    SettingsStore::setSettingsProperty(QStringLiteral("r"), 1);
-    SettingsStore::setSettingsProperty(QStringLiteral("r"), QStringLiteral("two"));
-    QCOMPARE(SettingsStore::settingsProperty(QStringLiteral("r"), 0).toString(), QStringLiteral("two"));
-    QCOMPARE(SettingsStore::settingsProperty(QStringLiteral("absent"), 7).toInt(), 7);
-}
-
-void TestPorts::unknownPortGivesItsFallback()
-{
-    QVERIFY(SettingsStore::getMidiInPortSelected(QStringLiteral("?"), true));
-    QVERIFY(!SettingsStore::getMidiInPortSelected(QStringLiteral("?"), false));
-    QVERIFY(SettingsStore::getMidiOutPortSelected(QStringLiteral("?"), true));
-    SettingsStore::setMidiOutPortSelected(QStringLiteral("?"), false);
-    QVERIFY(!SettingsStore::getMidiOutPortSelected(QStringLiteral("?"), true));
-    QVERIFY(SettingsStore::getMidiInPortSelected(QStringLiteral("?"), true)); // a direction of its own
-}
-
-void TestPorts::defaultKeysStandInOrder()
-{
-    QCOMPARE(defaultKeys.size(), 13);
-    QCOMPARE(defaultKeys.first(), QStringLiteral("DatabasePath"));
-    QCOMPARE(defaultKeys.last(), QStringLiteral("MidiOutPort-"));
-    SettingsStore::registerDefaultValues();
-    QVERIFY(SettingsStore::settingsProperty(QStringLiteral("DatabasePath"), QVariant())
-                .toString()
-                .endsWith(QStringLiteral("/sorvane.svdb")));
-    QVERIFY(!SettingsStore::containsProperty(QStringLiteral("PowerPointX")));
 }
 
 QTEST_MAIN(TestPorts)

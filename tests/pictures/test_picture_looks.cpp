@@ -1,29 +1,11 @@
-// The committed pictures against the painter that draws them, and against what the stage needs of them.
+// What the stage needs of its pictures: outlines, clear parts, states that can be told apart.
 
-#include "tests/picture_distance.h"
-#include "tools/pictures/gif_writer.h"
-#include "tools/pictures/icons.h"
-#include "tools/pictures/picture_table.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QtTest>
+#include "committed.h"
+#include "picture_distance.h"
 
 using picture_distance::between;
 
 namespace {
-
-QString denseName(const QString& path)
-{
-    return QString(path).replace(QLatin1Char('.'), QStringLiteral("@2x."));
-}
-
-QImage committed(const QString& path)
-{
-    QImage image(QStringLiteral(":/Resources/") + path);
-    image.setDevicePixelRatio(1.0);
-    return image.convertToFormat(QImage::Format_ARGB32);
-}
 
 /// How far two pixels are apart in the channel that tells most.
 int difference(QRgb a, QRgb b)
@@ -57,16 +39,12 @@ bool isBlankColumn(const QImage& image, int x)
 
 } // namespace
 
-class TestPictures : public QObject
+class TestPictureLooks : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void committedPictureIsThePaintersOwn_data();
-    void committedPictureIsThePaintersOwn();
-    void otherColourIsTold();
-    void faintRoundingIsNotTold();
-    void everyResourceIsPaintedOrText();
+    // Keys
     void keySheetsShareTheirOutline();
     void whiteKeysAreOpaqueButForTheirNotches_data();
     void whiteKeysAreOpaqueButForTheirNotches();
@@ -74,89 +52,21 @@ private slots:
     void pressedCellsDifferFromIdleOnes();
     void cellsOfBlackKeysAreOpaque();
     void shineRunsOnFromKeyToKey();
+
+    // Digits
     void digitsStandInTheirColumns_data();
     void digitsStandInTheirColumns();
+
+    // The case and what stands on it
     void displayStaysFlatBehindTheLabels();
     void partsOfTheDisplayKeepClearOfTheLabels();
     void overlaysAreMostlyClear();
     void powerSquareShowsItsState();
     void selectorLightsLeaveTheOtherKeysFree();
     void switchesTellTheirStatesApart();
-    void picturesStaySmall();
 };
 
-void TestPictures::committedPictureIsThePaintersOwn_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("scale");
-    for (int i = 0; i < static_cast<int>(allPictures().size()); ++i)
-        for (const int scale : {1, 2})
-            QTest::addRow("%s at %dx", qPrintable(allPictures()[static_cast<std::size_t>(i)].path), scale)
-                << i << scale;
-}
-
-void TestPictures::committedPictureIsThePaintersOwn()
-{
-    QFETCH(int, index);
-    QFETCH(int, scale);
-    const Picture& picture = allPictures()[static_cast<std::size_t>(index)];
-    const QImage file = committed(scale == 1 ? picture.path : denseName(picture.path));
-    QImage fresh = paintPicture(picture, scale);
-    if (picture.path.endsWith(QStringLiteral(".gif"))) // one bit of transparency
-        fresh = QImage::fromData(gifData(fresh)).convertToFormat(QImage::Format_ARGB32);
-    QCOMPARE(file.size(), picture.size * scale);
-    const picture_distance::Distance apart = between(file, fresh);
-    QVERIFY2(picture_distance::looksTheSame(apart),
-             qPrintable(QStringLiteral("%1 at worst, %2 in the mean").arg(apart.worst).arg(apart.mean)));
-}
-
-// A colour of the palette that was changed without painting anew.
-void TestPictures::otherColourIsTold()
-{
-    const QImage sheet = committed(QStringLiteral("Keyboard/keyboardB.png"));
-    QImage other = sheet;
-    for (int y = 0; y < other.height(); ++y)
-        for (int x = 0; x < other.width(); ++x)
-            if (const QRgb pixel = other.pixel(x, y); qAlpha(pixel) == 255 && qRed(pixel) > 200)
-                other.setPixel(x, y, qRgb(qRed(pixel) - 3, qGreen(pixel) - 3, qBlue(pixel) - 3));
-    QVERIFY(picture_distance::looksTheSame(between(sheet, sheet)));
-    QVERIFY(!picture_distance::looksTheSame(between(sheet, other)));
-}
-
-void TestPictures::faintRoundingIsNotTold()
-{
-    QImage one(8, 8, QImage::Format_ARGB32);
-    one.fill(Qt::black);
-    QImage other = one;
-    for (int x = 0; x < one.width(); ++x) { // twice the same to the eye
-        one.setPixel(x, 0, qRgba(255, 128, 0, 2));
-        other.setPixel(x, 0, qRgba(128, 255, 0, 2));
-    }
-    QVERIFY(picture_distance::looksTheSame(between(one, other)));
-}
-
-void TestPictures::everyResourceIsPaintedOrText()
-{
-    QFile list(QStringLiteral(SORVANE_RESOURCES "/Resources.qrc"));
-    QVERIFY(list.open(QIODevice::ReadOnly));
-    QStringList listed;
-    const QStringList lines = QString::fromUtf8(list.readAll()).split(QLatin1Char('\n'));
-    for (const QString& line : lines)
-        if (line.contains(QStringLiteral("<file>")))
-            listed.append(line.section(QStringLiteral("<file>"), 1).section(QStringLiteral("</file>"), 0, 0));
-    for (const Picture& picture : allPictures()) {
-        QVERIFY2(listed.removeOne(picture.path), qPrintable(picture.path));
-        QVERIFY2(listed.removeOne(denseName(picture.path)), qPrintable(picture.path));
-    }
-    for (const int size : iconSizes)
-        QVERIFY2(listed.removeOne(iconPath(size)), qPrintable(iconPath(size)));
-    for (const QString& rest : qAsConst(listed))
-        QVERIFY2(rest.endsWith(QStringLiteral(".qss")) || rest.endsWith(QStringLiteral(".html")) ||
-                     rest.endsWith(QStringLiteral(".txt")),
-                 qPrintable(rest));
-}
-
-void TestPictures::keySheetsShareTheirOutline()
+void TestPictureLooks::keySheetsShareTheirOutline()
 {
     const QImage plain = committed("Keyboard/keyboardB.png");
     for (const char* other : {"_IN", "_OUT", "_deactive", "_LEARN"}) {
@@ -167,7 +77,7 @@ void TestPictures::keySheetsShareTheirOutline()
     }
 }
 
-void TestPictures::whiteKeysAreOpaqueButForTheirNotches_data()
+void TestPictureLooks::whiteKeysAreOpaqueButForTheirNotches_data()
 {
     QTest::addColumn<int>("left");
     QTest::addColumn<bool>("leftNotch");
@@ -183,7 +93,7 @@ void TestPictures::whiteKeysAreOpaqueButForTheirNotches_data()
 }
 
 // A black key is 10 wide and 64 high, half of it over each white neighbour.
-void TestPictures::whiteKeysAreOpaqueButForTheirNotches()
+void TestPictureLooks::whiteKeysAreOpaqueButForTheirNotches()
 {
     QFETCH(int, left);
     QFETCH(bool, leftNotch);
@@ -202,7 +112,7 @@ void TestPictures::whiteKeysAreOpaqueButForTheirNotches()
     }
 }
 
-void TestPictures::keySheetsDifferInColour()
+void TestPictureLooks::keySheetsDifferInColour()
 {
     QStringList names{"", "_IN", "_OUT", "_deactive", "_LEARN"};
     for (const int x : {60, 77, 5, 15}) { // a white key idle and pressed, a black one idle and pressed
@@ -217,7 +127,7 @@ void TestPictures::keySheetsDifferInColour()
     }
 }
 
-void TestPictures::pressedCellsDifferFromIdleOnes()
+void TestPictureLooks::pressedCellsDifferFromIdleOnes()
 {
     for (const char* name : {"", "_IN", "_OUT", "_deactive", "_LEARN"}) {
         const QImage sheet = committed(QStringLiteral("Keyboard/keyboardB%1.png").arg(QLatin1String(name)));
@@ -227,7 +137,7 @@ void TestPictures::pressedCellsDifferFromIdleOnes()
 }
 
 // A white key's notch is transparent: what shines there must be hidden by the black key.
-void TestPictures::cellsOfBlackKeysAreOpaque()
+void TestPictureLooks::cellsOfBlackKeysAreOpaque()
 {
     const QImage sheet = committed("Keyboard/keyboardB.png");
     for (int x = 0; x < 20; ++x)
@@ -235,7 +145,7 @@ void TestPictures::cellsOfBlackKeysAreOpaque()
             QCOMPARE(qAlpha(sheet.pixel(x, y)), 255);
 }
 
-void TestPictures::shineRunsOnFromKeyToKey()
+void TestPictureLooks::shineRunsOnFromKeyToKey()
 {
     for (const char* path : {"INPUTblueShine.png", "OUTPUTyellowShine.png"}) {
         const QImage shine = committed(QLatin1String(path));
@@ -251,14 +161,14 @@ void TestPictures::shineRunsOnFromKeyToKey()
     }
 }
 
-void TestPictures::digitsStandInTheirColumns_data()
+void TestPictureLooks::digitsStandInTheirColumns_data()
 {
     QTest::addColumn<int>("sheet");
     for (int sheet = 0; sheet < 4; ++sheet)
         QTest::addRow("Numb%d", sheet) << sheet;
 }
 
-void TestPictures::digitsStandInTheirColumns()
+void TestPictureLooks::digitsStandInTheirColumns()
 {
     QFETCH(int, sheet);
     const QImage image = committed(QStringLiteral("Numb%1.png").arg(sheet));
@@ -278,7 +188,7 @@ void TestPictures::digitsStandInTheirColumns()
             QVERIFY(isBlankColumn(image, x));
 }
 
-void TestPictures::displayStaysFlatBehindTheLabels()
+void TestPictureLooks::displayStaysFlatBehindTheLabels()
 {
     const QImage back = committed("Background/BG_off.png");
     const QImage on = committed("Background/BG_t_on-CM.png"), off = committed("Background/BG_t_off.png");
@@ -294,7 +204,7 @@ void TestPictures::displayStaysFlatBehindTheLabels()
 
 // The form's labels lie flat over the middle of the display; what else is drawn there would stop at their
 // edges.
-void TestPictures::partsOfTheDisplayKeepClearOfTheLabels()
+void TestPictureLooks::partsOfTheDisplayKeepClearOfTheLabels()
 {
     const QRect hiddenLayer(342 - 207, 217 - 167, 265, 7), labelBottom(343 - 207, 274 - 167, 263, 6);
     for (const int scale : {1, 2})
@@ -308,7 +218,7 @@ void TestPictures::partsOfTheDisplayKeepClearOfTheLabels()
     QVERIFY(isClear(logo, QRect(0, 217 - 162, logo.width(), 7)));
 }
 
-void TestPictures::overlaysAreMostlyClear()
+void TestPictureLooks::overlaysAreMostlyClear()
 {
     for (const char* path : {"Background/BG_t_on-CM.png", "Background/BG_t_off.png"}) {
         const QImage sheet = committed(QLatin1String(path));
@@ -320,7 +230,7 @@ void TestPictures::overlaysAreMostlyClear()
     }
 }
 
-void TestPictures::powerSquareShowsItsState()
+void TestPictureLooks::powerSquareShowsItsState()
 {
     const QRect square(3, 3, 13, 25), lens(5, 20, 9, 5);
     const QImage off = committed("Power/POWERBUTTONOff.png"), on = committed("Power/POWERBUTTONOn.png");
@@ -334,7 +244,7 @@ void TestPictures::powerSquareShowsItsState()
     }
 }
 
-void TestPictures::selectorLightsLeaveTheOtherKeysFree()
+void TestPictureLooks::selectorLightsLeaveTheOtherKeysFree()
 {
     const QImage sheet = committed("KeyboardTonic.png");
     for (const int selector : {0, 180})
@@ -345,7 +255,7 @@ void TestPictures::selectorLightsLeaveTheOtherKeysFree()
         }
 }
 
-void TestPictures::switchesTellTheirStatesApart()
+void TestPictureLooks::switchesTellTheirStatesApart()
 {
     for (const char* which : {"Tonic", "Scale"}) {
         const auto state = [which](const char* name) {
@@ -360,15 +270,5 @@ void TestPictures::switchesTellTheirStatesApart()
     }
 }
 
-void TestPictures::picturesStaySmall()
-{
-    qint64 bytes = 0;
-    for (const Picture& picture : allPictures())
-        for (const QString& path : {picture.path, denseName(picture.path)})
-            bytes += QFileInfo(QStringLiteral(SORVANE_RESOURCES "/") + path).size();
-    QVERIFY(bytes > 0);
-    QVERIFY2(bytes < 1500000, qPrintable(QString::number(bytes)));
-}
-
-QTEST_MAIN(TestPictures)
-#include "test_pictures.moc"
+QTEST_MAIN(TestPictureLooks)
+#include "test_picture_looks.moc"

@@ -1,0 +1,51 @@
+// Numbers as pictures of their digits.
+
+#include "HeaderFixture.h"
+#include "plain_image.h"
+
+class TestDigits : public HeaderFixture
+{
+    Q_OBJECT
+
+private slots:
+    void oneGlyphUpToNineAndAPairFromTen();
+    void negativeNumbersCarryTheSign();
+    void thirdDigitIsNotDrawn();
+    void unknownDigitTypeHasNoGlyphs();
+};
+
+void TestDigits::oneGlyphUpToNineAndAPairFromTen()
+{
+    const int widths[] = {6, 3, 4, 5, 5, 4, 6, 5, 6, 6};
+    for (int type = MainWnd::digit_anchor_in; type <= MainWnd::digit_bar; ++type)
+        for (int number = 0; number <= 9; ++number)
+            QCOMPARE(window->getDigitalPix(static_cast<MainWnd::digit_type>(type), number).size(),
+                     QSize(widths[number], 8));
+    QCOMPARE(window->getDigitalPix(MainWnd::digit_square, 10).size(), QSize(13, 8));
+    const QImage twelve = imageOf(window->getDigitalPix(MainWnd::digit_square, 12));
+    QCOMPARE(twelve.copy(0, 0, 3, 8), imageOf(window->getDigitalPix(MainWnd::digit_square, 1)));
+    QCOMPARE(twelve.copy(3, 0, 4, 8), imageOf(window->getDigitalPix(MainWnd::digit_square, 2)));
+}
+
+void TestDigits::negativeNumbersCarryTheSign()
+{
+    const QPixmap minusFour = window->getDigitalPix(MainWnd::digit_anchor_in, -4);
+    QCOMPARE(minusFour.size(), QSize(16, 8));
+    QCOMPARE(imageOf(minusFour).copy(3, 0, 5, 8),
+             imageOf(window->getDigitalPix(MainWnd::digit_anchor_in, 4)));
+    QVERIFY(imageOf(minusFour).copy(0, 0, 3, 8) != QImage(imageOf(minusFour).copy(13, 0, 3, 8)));
+}
+
+void TestDigits::thirdDigitIsNotDrawn()
+{
+    QCOMPARE(imageOf(window->getDigitalPix(MainWnd::digit_bar, 123)),
+             imageOf(window->getDigitalPix(MainWnd::digit_bar, 12)));
+}
+
+void TestDigits::unknownDigitTypeHasNoGlyphs()
+{
+    QVERIFY(window->getDigitalPix(static_cast<MainWnd::digit_type>(4), 3).isNull());
+}
+
+QTEST_MAIN(TestDigits)
+#include "test_digits.moc"
