@@ -5,7 +5,6 @@
 #include "keys/tonic_names.h"
 
 #include <QCommandLineParser>
-#include <QRegularExpression>
 
 #include <algorithm>
 

@@ -291,7 +291,7 @@ private:
     QList<QList<int>> waitingMessages;   ///< received and not yet played
     bool holdMessages = false;
     bool freshKey = false; ///< a key press is coming that no filter has seen
-    std::array<QGraphicsPixmapItem*, 12> scaleSquares{};
+    std::array<QGraphicsPixmapItem*, pitch_mapping::octave> scaleSquares{};
     std::array<QPixmap, 13> squarePlates; ///< by ordinal; 0 is blank
     std::array<QPixmap, 13> barDigits;    ///< by degree number; 0 is blank
     PortKeeper<RtMidiIn> inPortKeeper{inPorts};

@@ -5,6 +5,7 @@
 #include "app/MidiService.h"
 #include "keys/PowerItem.h"
 #include "keys/key_roles.h"
+#include "keys/midi_status.h"
 #include "logging/categories.h"
 
 #include <QScopedValueRollback>
@@ -12,22 +13,21 @@
 namespace {
 
 constexpr int messageSize = 3;
-constexpr int noteOnFirstChannel = 0x90;
 
 bool isNoteMessage(int status)
 {
-    return (status & 0xE0) == 0x80;
+    return (status & 0xE0) == midi_status::noteOff;
 }
 
 bool isNoteOff(int status)
 {
-    return (status & 0xF0) == 0x80;
+    return (status & 0xF0) == midi_status::noteOff;
 }
 
 /// Note-on and note-off of the first channel: what the keys answer to.
 bool isPlayed(int status)
 {
-    return (status | 0x10) == noteOnFirstChannel;
+    return status == midi_status::noteOn || status == midi_status::noteOff;
 }
 
 } // namespace
@@ -60,7 +60,7 @@ void MainWnd::pushKeySlot(QList<int> message) // NOLINT(performance-unnecessary-
     if (!key)
         return;
     // Kept: only the first channel presses a key, any channel releases it.
-    if (inNoteHeld.at(note) == 0 && velocity != 0 && status == noteOnFirstChannel) {
+    if (inNoteHeld.at(note) == 0 && velocity != 0 && status == midi_status::noteOn) {
         inNoteHeld[note] = 1; // before the press: it may run the event loop
         pressInKey(key, velocity);
     } else if (inNoteHeld.at(note) == 1 && (velocity == 0 || isNoteOff(status))) {
@@ -72,10 +72,9 @@ void MainWnd::pushKeySlot(QList<int> message) // NOLINT(performance-unnecessary-
 
 void MainWnd::releaseHeldNotes()
 {
-    constexpr int noteOff = 0x80;
     for (int note = 0; note < inNoteHeld.size(); ++note)
         if (inNoteHeld.at(note) != 0)
-            pushKeySlot({noteOff, note, 0});
+            pushKeySlot({midi_status::noteOff, note, 0});
 }
 
 void MainWnd::pressInKey(ResizableItem* key, int velocity)

@@ -8,6 +8,7 @@
 #include "keys/ScaleKeyController.h"
 #include "keys/key_roles.h"
 #include "library/default_tables.h"
+#include "library/scale_word.h"
 #include "logging/categories.h"
 #include "screen/AlertWidget.h"
 #include "screen/CenterScreen.h"
@@ -17,9 +18,8 @@
 namespace {
 
 constexpr int octaves = 7;
-constexpr int octaveKeys = 12, octaveWidth = 119; // seven white keys
+constexpr int octaveWidth = 7 * pitch_mapping::whiteKeyWidth;
 constexpr int firstActiveKey = 63;
-const QLatin1String allOff("xooooooooooo"); // no scale at all
 
 // The flags of one octave; boxes stand in two rows so that they do not touch:
 //       [F#]  [G#] [A#]
@@ -46,7 +46,7 @@ void MainWnd::createHeaders()
     headerController = new HeaderController(this);
     int index = 0;
     const auto create = [&](const Slot& slot, int octave) {
-        const int key = slot.keyNumber + octaveKeys * octave;
+        const int key = slot.keyNumber + pitch_mapping::octave * octave;
         createHeaderItem(QStringLiteral("header"), key, index++, slot.type,
                          slot.position + QPoint(octaveWidth * octave, 0),
                          key == firstActiveKey ? header_active : header_deactive);
@@ -91,7 +91,7 @@ void MainWnd::checkScaleMatches(bool)
         headerController->activeHeader->updateScenic();
     const bool placed = takeLibraryTo(word);
     const bool known = placed && library.containsScale(word, DatabaseLibrary::LibraryRole);
-    centerScreen->showExclamationMark(!known && word != allOff);
+    centerScreen->showExclamationMark(!known && word != tonicAloneWord);
     if (centerScreen->libraryOpen)
         centerScreen->updateSceneDescr(word);
     centerScreen->updateBrowser();

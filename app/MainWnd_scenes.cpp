@@ -43,7 +43,7 @@ constexpr Letter letters[] = {
 /// Octave 0 begins with the C that the keyboard does not have, note 12.
 int noteOf(const Letter& letter, int octave)
 {
-    return 12 * (octave + 1) + letter.semitone;
+    return pitch_mapping::octave * (octave + 1) + letter.semitone;
 }
 
 QPoint whitePosition(int note)

@@ -55,9 +55,8 @@ QPixmap litKey(tonic_key_type type, const Cell& cell)
 /// The lit key on a transparent ground of its own size.
 QPixmap onTransparent(const QPixmap& pix)
 {
-    const QSize size = pix.size() / pix.devicePixelRatio();
     const QPixmap ground = pictures::load(QStringLiteral(":/Resources/Background/transparent.png"));
-    return pictures::overlay(pictures::crop(ground, QRect(QPoint(), size)), pix, QRect(QPoint(), size));
+    return pictures::overlay(pictures::crop(ground, QRect(QPoint(), pictures::sizeOf(pix))), pix);
 }
 
 constexpr int squareWidth = 15;
@@ -92,7 +91,7 @@ void MainWnd::createRow(tonic_key_type type, KeyControllerBase* ctrl, TonicScene
     scene.addItem(back);
     selectorItems.append(back);
     for (const bool black : {false, true}) // black keys lie over white ones
-        for (int index = 0; index < 12; ++index) {
+        for (int index = 0; index < pitch_mapping::octave; ++index) {
             const Cell& cell = cells[index];
             if (cell.black != black)
                 continue;
@@ -112,8 +111,7 @@ QPixmap MainWnd::numberedPlate(int ordinal) const
     if (ordinal == 0)
         return plate;
     const QPixmap digits = getDigitalPix(digit_square, ordinal);
-    const int width = static_cast<int>(digits.width() / digits.devicePixelRatio());
-    QPainter(&plate).drawPixmap((squareWidth - width) / 2, 1, digits);
+    QPainter(&plate).drawPixmap((squareWidth - pictures::sizeOf(digits).width()) / 2, 1, digits);
     return plate;
 }
 

@@ -1,14 +1,12 @@
 // What the database file costs: reading it with all that follows in the window, and writing it to a disk.
 
 #include "app/MainWnd.h"
-#include "app/MidiService.h"
-#include "library/SettingsStore.h"
+#include "window_bench.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QFile>
-#include <QLoggingCategory>
 #include <QTemporaryDir>
 
 namespace {
@@ -57,7 +55,7 @@ void exportState(benchmark::State& state)
     const QString file = pathOf("written.svdb");
     for (auto _ : state)
         mustSucceed(mainWnd->exportDatabase(file));
-    state.counters["bytes"] = double(QFile(file).size());
+    state.counters["bytes"] = static_cast<double>(QFile(file).size());
 }
 
 /// Up to the window that shows it: queued events are part of it.
@@ -107,14 +105,5 @@ BENCHMARK(importTenThousandScales)->Unit(benchmark::kMillisecond)->UseRealTime()
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
-    QLoggingCategory::setFilterRules(QStringLiteral("sorvane.*.debug=false"));
-    midiService().choose(MidiService::Wanted::none);
-    MainWnd window;
-    window.show();
-    QCoreApplication::processEvents();
-
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runInWindow(argc, argv, [](MainWnd&) {});
 }

@@ -2,39 +2,32 @@
 
 #include "RecordingPort.h"
 #include "app/MainWnd.h"
-#include "app/MidiService.h"
 #include "headers/AnchorsGroup.h"
 #include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
-#include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
+#include "keys/midi_status.h"
 #include "keys/tonic_names.h"
+#include "window_bench.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-#include <QLoggingCategory>
+#include <QCoreApplication>
 #include <QMouseEvent>
 
 namespace {
 
-void drain(RecordingPort& port)
-{
-    port.clear();
-}
-
 /// White keys over the whole keyboard, power on in D Ionian: press and release.
 void notePair(benchmark::State& state)
 {
-    RecordingPort& port = *static_cast<RecordingPort*>(mainWnd->outPorts.first());
     const auto& whites = pitch_mapping::whitePitches();
     std::size_t i = 0;
     for (auto _ : state) {
-        mainWnd->pushKeySlot({0x90, whites[i], 100});
-        mainWnd->pushKeySlot({0x80, whites[i], 0});
+        mainWnd->pushKeySlot({midi_status::noteOn, whites[i], 100});
+        mainWnd->pushKeySlot({midi_status::noteOff, whites[i], 0});
         i = (i + 1) % whites.size();
         if (i == 0)
-            drain(port);
+            recordingPort().clear();
     }
 }
 
@@ -56,11 +49,11 @@ void recall(benchmark::State& state)
     std::size_t i = 0;
     for (auto _ : state) {
         i = 1 - i;
-        mainWnd->pushKeySlot({0x90, keys[i], 100});
+        mainWnd->pushKeySlot({midi_status::noteOn, keys[i], 100});
         state.PauseTiming();
         if (presets->activeHeader != presets->findHeader(keys[i]))
             state.SkipWithError("the preset was not recalled");
-        mainWnd->pushKeySlot({0x80, keys[i], 0});
+        mainWnd->pushKeySlot({midi_status::noteOff, keys[i], 0});
         QCoreApplication::processEvents();
         state.ResumeTiming();
     }
@@ -72,7 +65,7 @@ void remap(benchmark::State& state)
     std::size_t i = 0;
     for (auto _ : state) {
         state.PauseTiming();
-        tonic->setTonicModifier(tonicModifierName[++i % 12], false, true);
+        tonic->setTonicModifier(tonicModifierName[++i % tonicModifierName.size()], false, true);
         state.ResumeTiming();
         mainWnd->powerItem->changeScaleByTonic();
         mainWnd->powerItem->setKeysDeactive();
@@ -109,13 +102,12 @@ void anchorStep(benchmark::State& state)
 
 void passThrough(benchmark::State& state)
 {
-    RecordingPort& port = *static_cast<RecordingPort*>(mainWnd->outPorts.first());
     int value = 0;
     for (auto _ : state) {
         mainWnd->midiThru({0xB0, 1, value});
         value = (value + 1) % 128;
         if (value == 0)
-            drain(port);
+            recordingPort().clear();
     }
 }
 
@@ -130,19 +122,10 @@ BENCHMARK(passThrough);
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
-    QLoggingCategory::setFilterRules(QStringLiteral("sorvane.*.debug=false"));
-    midiService().choose(MidiService::Wanted::none);
-    MainWnd window;
-    window.show();
-    window.outPorts[0] = new RecordingPort;
-    window.midiOutOpen = true;
-    static_cast<TonicKeyController*>(window.tonicController)
-        ->setTonicModifier(QStringLiteral("D"), true, true);
-    window.setPower(true);
-    QCoreApplication::processEvents();
-
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runInWindow(argc, argv, [](MainWnd& window) {
+        openRecordingPort(window);
+        static_cast<TonicKeyController*>(window.tonicController)
+            ->setTonicModifier(QStringLiteral("D"), true, true);
+        window.setPower(true);
+    });
 }

@@ -3,17 +3,16 @@
 
 #include "RecordingPort.h"
 #include "app/MainWnd.h"
-#include "app/MidiService.h"
-#include "headers/HeaderController.h"
+#include "keys/midi_status.h"
 #include "screen/CenterScreen.h"
 #include "screen/DescriptionEditor.h"
 #include "screen/LibraryView.h"
 #include "screen/ScaleListWidget.h"
+#include "window_bench.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-#include <QLoggingCategory>
+#include <QCoreApplication>
 
 namespace {
 
@@ -24,15 +23,10 @@ CenterScreen& screen()
     return *mainWnd->centerScreen;
 }
 
-RecordingPort& port()
-{
-    return *static_cast<RecordingPort*>(mainWnd->outPorts.first());
-}
-
 void settle()
 {
     QCoreApplication::processEvents();
-    port().clear();
+    recordingPort().clear();
 }
 
 /// A white key's press and release, with all that is due behind them: queued events, timers, painting.
@@ -42,12 +36,12 @@ void notePair(benchmark::State& state)
     std::size_t i = 0;
     settle();
     for (auto _ : state) {
-        mainWnd->receiveMessage({0x90, whites[i], 100});
-        mainWnd->receiveMessage({0x80, whites[i], 0});
+        mainWnd->receiveMessage({midi_status::noteOn, whites[i], 100});
+        mainWnd->receiveMessage({midi_status::noteOff, whites[i], 0});
         QCoreApplication::processEvents();
         i = (i + 1) % std::size(whites);
         if (i == 0)
-            port().clear();
+            recordingPort().clear();
     }
 }
 
@@ -75,8 +69,8 @@ void recallLibraryOpen(benchmark::State& state)
     for (auto _ : state) {
         i = 1 - i;
         const QString before = page->toPlainText();
-        mainWnd->receiveMessage({0x90, keys[i], 100});
-        mainWnd->receiveMessage({0x80, keys[i], 0});
+        mainWnd->receiveMessage({midi_status::noteOn, keys[i], 100});
+        mainWnd->receiveMessage({midi_status::noteOff, keys[i], 0});
         while (page->toPlainText() == before)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         QCoreApplication::processEvents();
@@ -145,17 +139,8 @@ BENCHMARK(updateOfManyScales);
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
-    QLoggingCategory::setFilterRules(QStringLiteral("sorvane.*.debug=false"));
-    midiService().choose(MidiService::Wanted::none);
-    MainWnd window;
-    window.show();
-    window.outPorts[0] = new RecordingPort;
-    window.midiOutOpen = true;
-    window.setPower(true);
-    QCoreApplication::processEvents();
-
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runInWindow(argc, argv, [](MainWnd& window) {
+        openRecordingPort(window);
+        window.setPower(true);
+    });
 }

@@ -5,6 +5,7 @@
 #include "app/MainWnd.h"
 #include "keys/PowerItem.h"
 #include "keys/key_roles.h"
+#include "keys/midi_status.h"
 
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
@@ -134,7 +135,7 @@ void DiagramScene::sweep(QPointF pos)
     left->releaseKey();
     key->pushKey();
     if (mainWnd->midiOutOpen)
-        key->sendOutMidi(0x90, 0); // kept: note 0 sends nothing
+        key->sendOutMidi(midi_status::noteOn, 0); // kept: note 0 sends nothing
 }
 
 // Keys that stand for presets or for the power are not swept: the last white key goes on sounding.

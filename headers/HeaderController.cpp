@@ -95,7 +95,7 @@ void HeaderController::recallNeighbour(int step)
     if (!activeHeader)
         return;
     using namespace pitch_mapping;
-    for (int i = key_roles::pitch(activeHeader) + step; i >= lowestPitch && i <= highestPitch; i += step) {
+    for (int i = key_roles::pitch(activeHeader) + step; isOnKeyboard(i); i += step) {
         if (!key_roles::isBlack(mainWnd->findInNote(i)) || isUnderPowerButton(i))
             continue;
         setActiveHeader(findHeader(i), true);

@@ -172,9 +172,7 @@ void HeaderItem::overlayContextMenu(bool on)
 {
     if (on) {
         savedPixmap = pixmap();
-        const QPixmap top = picture(type, "SwitchContextMenu");
-        setPixmap(pictures::overlay(savedPixmap, top,
-                                    QRectF(QPointF(), QSizeF(top.size()) / top.devicePixelRatio()).toRect()));
+        setPixmap(pictures::overlay(savedPixmap, picture(type, "SwitchContextMenu")));
     } else if (!savedPixmap.isNull()) {
         setPixmap(savedPixmap);
     }

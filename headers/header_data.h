@@ -1,5 +1,7 @@
 #pragma once
 
+#include "library/scale_word.h"
+
 #include <QString>
 
 #include <utility>
@@ -19,11 +21,11 @@ struct header_data
 
     // Three overwrites of all nine fields. Kept: what tells them apart.
     /// C Ionian, both switches on.
-    void reset() { *this = {"ION", "Major", "C", true, "C", true, "xoxoxxoxoxox"}; }
+    void reset() { *this = {"ION", "Major", "C", true, "C", true, ionianWord}; }
     /// C and nothing above it, both switches on.
-    void erase() { *this = {{}, {}, "C", true, "C", true, "xooooooooooo"}; }
+    void erase() { *this = {{}, {}, "C", true, "C", true, tonicAloneWord}; }
     /// C Ionian without names and, whatever the name of this says, with both switches off.
-    void clearNames() { *this = {{}, {}, "C", false, "C", false, "xoxoxxoxoxox"}; }
+    void clearNames() { *this = {{}, {}, "C", false, "C", false, ionianWord}; }
 
     QString nameScenic1; ///< upper display name: the scale's abbr1
     QString nameScenic2; ///< lower display name: the scale's abbr2

@@ -13,8 +13,7 @@ QPixmap picture(const char* state)
 
 QPixmap laidOver(const QPixmap& base, const char* state)
 {
-    const QPixmap top = picture(state);
-    return pictures::overlay(base, top, QRect(QPoint(), top.size() / top.devicePixelRatio()));
+    return pictures::overlay(base, picture(state));
 }
 
 } // namespace

@@ -39,7 +39,7 @@ void ResizableItem::setKeysDeactive()
         auto* key = dynamic_cast<ResizableItem*>(item);
         if (!key || !key_roles::isIn(key))
             continue;
-        const bool dead = !key_roles::isBlack(key) && key_roles::target(key) == key_roles::noTarget;
+        const bool dead = !key_roles::isBlack(key) && key_roles::target(key) == pitch_mapping::noTarget;
         deactivateUnmapped(key, dead);
     }
 }

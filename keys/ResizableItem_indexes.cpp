@@ -26,15 +26,10 @@ constexpr int oneDigit = 5;         // pixels, of most of them
 constexpr int inMarkTop = 3, outMarkTop = 9;
 constexpr qreal awake = 1, asleep = 0.7; // of the anchors, with the power on and off
 
-int widthOf(const QPixmap& picture)
-{
-    return static_cast<int>(picture.width() / picture.devicePixelRatio());
-}
-
 Degrees degreesOn()
 {
     Degrees scale;
-    for (int degree = 0; mainWnd->scaleController && degree < 12; ++degree) {
+    for (int degree = 0; mainWnd->scaleController && degree < octave; ++degree) {
         const TonicKeyItem* key = mainWnd->scaleController->findKey(degree);
         scale[static_cast<std::size_t>(degree)] = key && key->on;
     }
@@ -47,7 +42,7 @@ std::array<const ResizableItem*, keyCount> byPitch(const QList<QGraphicsItem*>& 
     std::array<const ResizableItem*, keyCount> table{};
     for (const QGraphicsItem* item : keys) {
         const int pitch = key_roles::pitch(item);
-        if (pitch >= lowestPitch && pitch <= highestPitch)
+        if (isOnKeyboard(pitch))
             table[indexOf(pitch)] = static_cast<const ResizableItem*>(item);
     }
     return table;
@@ -88,9 +83,8 @@ void ResizableItem::placeOutAnchors(int tonic)
     const bool power = mainWnd->powerItem->isSwitchOn();
     const auto keys = byPitch(listItemsOUT);
     const auto place = [&](QGraphicsItem* anchor, int n) {
-        const int pitch = seedPitch + tonic + 12 * n;
-        const bool onKeyboard = pitch >= lowestPitch && pitch <= highestPitch;
-        const ResizableItem* key = onKeyboard ? keys[indexOf(pitch)] : nullptr;
+        const int pitch = seedPitch + tonic + octave * n;
+        const ResizableItem* key = isOnKeyboard(pitch) ? keys[indexOf(pitch)] : nullptr;
         if (key)
             anchor->setX(key->x() - outAnchorMiddle);
         anchor->setOpacity(power ? awake : asleep);
@@ -137,7 +131,7 @@ void ResizableItem::drawIndexesIN(int count)
                 continue;
             const int number = degree_marks::numberOf(key_roles::target(key), tonic, scale);
             const int left = static_cast<int>(key->x() - anchorBarIn->x());
-            const int width = widthOf(mainWnd->degreeDigits(number));
+            const int width = pictures::sizeOf(mainWnd->degreeDigits(number)).width();
             marks.push_back({left + (whiteKeyWidth - width) / 2, number});
         }
     }
@@ -174,7 +168,7 @@ int ResizableItem::getCurScaleCount(bool)
 {
     const Degrees scale = degreesOn();
     int count = 0;
-    for (int degree = 0; degree < 12; ++degree) {
+    for (int degree = 0; degree < octave; ++degree) {
         const bool on = scale[static_cast<std::size_t>(degree)];
         count += on ? 1 : 0;
         mainWnd->showScaleSquare(degree, on ? count : 0);

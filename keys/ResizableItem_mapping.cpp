@@ -15,11 +15,6 @@ using namespace pitch_mapping;
 
 namespace {
 
-bool isOnKeyboard(int pitch)
-{
-    return pitch >= lowestPitch && pitch <= highestPitch;
-}
-
 struct ScaleState
 {
     Degrees known, on;
@@ -32,7 +27,7 @@ ScaleState readScaleKeys()
     if (!mainWnd->scaleController)
         return state;
     for (const TonicKeyItem* key : qAsConst(mainWnd->scaleController->keys)) {
-        if (key->index < 0 || key->index > 11) {
+        if (key->index < 0 || key->index >= octave) {
             qCDebug(lcKeys) << "ResizableItem::changeScaleByTonic() - empty cycle: foreach(auto inNote, "
                                "listItemsIN)";
             continue;

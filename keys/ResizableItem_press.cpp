@@ -9,12 +9,11 @@
 #include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
 #include "keys/key_roles.h"
+#include "keys/midi_status.h"
 #include "logging/categories.h"
 
 namespace {
 
-constexpr int noteOn = 0x90;
-constexpr int noteOff = 0x80;
 constexpr int pointerVelocity = 75;
 
 bool isPowerKey(const QGraphicsItem* key)
@@ -41,7 +40,7 @@ void ResizableItem::sendOutMidi(int status, int noteOverride)
     int velocity = key_roles::velocity(this);
     if (velocity == 0)
         velocity = pointerVelocity;
-    if (status == noteOff)
+    if (status == midi_status::noteOff)
         velocity = 0;
     if (note == 0)
         return;
@@ -78,7 +77,7 @@ void ResizableItem::pushOut(KeySheet sheet)
 {
     showCell(sheet, KeyCell::pressed, KeyShine::none);
     if (mainWnd->midiOutOpen)
-        sendOutMidi(noteOn, key_roles::pitch(this));
+        sendOutMidi(midi_status::noteOn, key_roles::pitch(this));
     key_roles::setEdgeReleased(this, false);
 }
 
@@ -148,7 +147,7 @@ void ResizableItem::pushOUTbyIN(int outPitch)
         if (key_roles::pitch(item) != outPitch)
             continue;
         if (mainWnd->midiOutOpen)
-            sendOutMidi(noteOn, outPitch);
+            sendOutMidi(midi_status::noteOn, outPitch);
         key_roles::setSoundedOut(this, outPitch);
         if (auto* out = dynamic_cast<ResizableItem*>(item)) {
             // Kept: an out A0 that is driven shows no press.
@@ -187,7 +186,7 @@ void ResizableItem::releaseKey()
     if (key_roles::isOut(this) && !key_roles::isEdgeReleased(this)) {
         key_roles::setEdgeReleased(this, true);
         if (mainWnd->midiOutOpen)
-            sendOutMidi(noteOff, key_roles::pitch(this));
+            sendOutMidi(midi_status::noteOff, key_roles::pitch(this));
     }
 }
 
@@ -199,7 +198,7 @@ void ResizableItem::releaseOUTbyIN(int outPitch)
         if (key_roles::pitch(item) != outPitch)
             continue;
         if (mainWnd->midiOutOpen)
-            sendOutMidi(noteOff, outPitch);
+            sendOutMidi(midi_status::noteOff, outPitch);
         if (auto* out = dynamic_cast<ResizableItem*>(item))
             out->showCell(out->idleSheet(), KeyCell::idle, KeyShine::yellow);
     }
@@ -207,10 +206,9 @@ void ResizableItem::releaseOUTbyIN(int outPitch)
 
 void ResizableItem::findAndReleaseBlackOut(int pitch)
 {
-    using pitch_mapping::isBlackPitch;
-    const bool onKeyboard = pitch >= pitch_mapping::lowestPitch && pitch <= pitch_mapping::highestPitch;
-    const bool noBlackAbove = pitch == pitch_mapping::highestPitch || !isBlackPitch(pitch + 1);
-    if (onKeyboard && !isBlackPitch(pitch) && noBlackAbove)
+    using namespace pitch_mapping;
+    const bool noBlackAbove = pitch == highestPitch || !isBlackPitch(pitch + 1);
+    if (isOnKeyboard(pitch) && !isBlackPitch(pitch) && noBlackAbove)
         return;
     releaseOUTbyIN(key_roles::blackOut(this));
 }

@@ -5,15 +5,10 @@
 #include "keys/PowerItem.h"
 #include "keys/TonicKeyItem.h"
 #include "keys/tonic_names.h"
+#include "library/scale_word.h"
 #include "logging/categories.h"
 
 #include <algorithm>
-
-namespace {
-
-constexpr int degreeCount = 12;
-
-} // namespace
 
 void ScaleKeyController::addKey(TonicKeyItem* key)
 {
@@ -47,7 +42,7 @@ void ScaleKeyController::switchWasSet(bool toHeader)
 QString ScaleKeyController::scaleModifier() const
 {
     QString word(QLatin1Char('x'));
-    for (int i = 1; i < degreeCount; ++i) {
+    for (int i = 1; i < scaleWordLength; ++i) {
         const TonicKeyItem* key = findKey(i);
         word += QLatin1Char(key && key->on ? 'x' : 'o');
     }
@@ -56,7 +51,7 @@ QString ScaleKeyController::scaleModifier() const
 
 bool ScaleKeyController::applyLetters(const QString& word)
 {
-    for (int i = 1; i < degreeCount; ++i) {
+    for (int i = 1; i < scaleWordLength; ++i) {
         TonicKeyItem* key = findKey(i);
         if (!key)
             continue;
@@ -78,7 +73,7 @@ bool ScaleKeyController::setScaleModifier(const QString& word, bool force)
 {
     if ((!force && !switchOn) || word.isEmpty())
         return false;
-    if (word.size() < degreeCount) {
+    if (word.size() < scaleWordLength) {
         qCDebug(lcKeys) << "Scale modifier is too short, must be 12 chars: " << word;
         return false;
     }
@@ -92,13 +87,10 @@ bool ScaleKeyController::toggleKey(const QString& noteName)
 {
     const auto note = std::find(tonicModifierName.begin(), tonicModifierName.end(), noteName);
     const int index = static_cast<int>(note - tonicModifierName.begin());
-    TonicKeyItem* key = index == 0 || index == degreeCount ? nullptr : findKey(index);
+    TonicKeyItem* key = index == 0 || note == tonicModifierName.end() ? nullptr : findKey(index);
     if (!key)
         return false;
-    if (key->on)
-        key->setOff();
-    else
-        key->setOn();
+    key->flip();
     mainWnd->powerItem->remap();
     return true;
 }
@@ -107,14 +99,14 @@ void ScaleKeyController::setAllOff()
 {
     if (mainWnd->headerController)
         mainWnd->headerController->clearScaleNames();
-    setScaleModifier(QStringLiteral("xooooooooooo"), true);
+    setScaleModifier(tonicAloneWord, true);
     mainWnd->checkScaleMatches(true);
 }
 
 void ScaleKeyController::setIonicMajor()
 {
     qCDebug(lcKeys) << "ScaelKeyController::setIonicMajor";
-    setScaleModifier(QStringLiteral("xoxoxxoxoxox"), true);
+    setScaleModifier(ionianWord, true);
     mainWnd->checkScaleMatches(true);
 }
 

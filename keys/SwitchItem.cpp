@@ -51,9 +51,7 @@ void SwitchItem::showStatus()
         setPixmap(neutral);
         return;
     }
-    const QPixmap top = statusPicture(type, currentStatus == status_on ? "On" : "Off");
-    setPixmap(
-        pictures::overlay(neutral, top, QRectF(QPointF(), top.size() / top.devicePixelRatio()).toRect()));
+    setPixmap(pictures::overlay(neutral, statusPicture(type, currentStatus == status_on ? "On" : "Off")));
 }
 
 void SwitchItem::setStatusCtrl()

@@ -6,6 +6,7 @@
 #include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
 #include "keys/key_roles.h"
+#include "keys/pitch_mapping.h"
 #include "keys/tonic_names.h"
 #include "logging/categories.h"
 
@@ -35,7 +36,7 @@ QPainterPath TonicKeyItem::shape() const
 
 QString TonicKeyItem::tableName() const
 {
-    if (index < 0 || index > 11)
+    if (index < 0 || index >= pitch_mapping::octave)
         return {};
     const auto& table = type == tonic_key_scale ? scaleModifierName : tonicModifierName;
     return table[static_cast<std::size_t>(index)];
@@ -55,6 +56,14 @@ void TonicKeyItem::setOff()
     key_roles::setStateOn(this, false);
 }
 
+void TonicKeyItem::flip()
+{
+    if (on)
+        setOff();
+    else
+        setOn();
+}
+
 void TonicKeyItem::becomeTonic()
 {
     auto* controller = dynamic_cast<TonicKeyController*>(parentCtrl);
@@ -68,10 +77,7 @@ void TonicKeyItem::becomeTonic()
 
 void TonicKeyItem::flipDegree()
 {
-    if (on)
-        setOff();
-    else
-        setOn();
+    flip();
     const auto* controller = dynamic_cast<ScaleKeyController*>(parentCtrl);
     if (controller && mainWnd->headerController)
         mainWnd->headerController->storeScale(controller->switchOn, controller->scaleModifier());

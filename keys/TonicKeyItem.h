@@ -24,6 +24,7 @@ public:
 
     void setOn();
     void setOff();
+    void flip();
     /// A tonic key becomes the one active key of its row; a scale key flips. `update` remaps the keyboards.
     void changeState(bool update);
     void handleHiddenMouseMove();

@@ -5,7 +5,7 @@ namespace {
 
 using pitch_mapping::Degrees;
 
-constexpr int tonics = 12, ordinals = 12;
+constexpr int tonics = pitch_mapping::octave, ordinals = pitch_mapping::octave;
 
 // Set by hand and by eye, number by number: kept as they stand.
 constexpr int corrections[ordinals][tonics] = {

@@ -51,11 +51,6 @@ bool isOut(const QGraphicsItem* item)
     return reads(item, ROLE_SIDE, QLatin1String("out"));
 }
 
-int pitch(const QGraphicsItem* item)
-{
-    return read(item, ROLE_PITCH).toInt();
-}
-
 bool isHeader(const QGraphicsItem* item)
 {
     return reads(item, ROLE_SIDE, QLatin1String("header"));
@@ -64,6 +59,11 @@ bool isHeader(const QGraphicsItem* item)
 bool isPower(const QGraphicsItem* item)
 {
     return reads(item, ROLE_SIDE, QLatin1String("power"));
+}
+
+int pitch(const QGraphicsItem* item)
+{
+    return read(item, ROLE_PITCH).toInt();
 }
 
 void setPitch(QGraphicsItem* item, int pitch)

@@ -24,8 +24,6 @@ enum key_role {
 /// lost: the walks of the mapping run past the ends of the keyboard and rely on that.
 namespace key_roles {
 
-inline constexpr int noTarget = -1;
-
 [[nodiscard]] QString side(const QGraphicsItem* item);
 void setSide(QGraphicsItem* item, const QString& side);
 [[nodiscard]] bool isIn(const QGraphicsItem* item);
@@ -58,7 +56,8 @@ void setInScale(QGraphicsItem* item, bool on);
 [[nodiscard]] bool isDeactive(const QGraphicsItem* item);
 void setActive(QGraphicsItem* item, bool active);
 
-/// The out pitch that an in key drives, -1 for none. Both stored forms, number and text, read alike.
+/// The out pitch that an in key drives, pitch_mapping::noTarget for none. Both stored forms, number and text,
+/// read alike.
 [[nodiscard]] int target(const QGraphicsItem* item);
 [[nodiscard]] QString targetText(const QGraphicsItem* item);
 void setTarget(QGraphicsItem* item, int pitch);

@@ -96,6 +96,11 @@ QPixmap load(const QString& path)
     return *cache().insert(key, dense ? decodeDense(path) : decode(path));
 }
 
+QSize sizeOf(const QPixmap& picture)
+{
+    return picture.size() / picture.devicePixelRatio();
+}
+
 QPixmap crop(const QPixmap& picture, const QRect& rectangle)
 {
     return picture.copy(scaled(rectangle, picture.devicePixelRatio()));
@@ -109,6 +114,11 @@ QPixmap overlay(const QPixmap& base, const QPixmap& top, const QRect& rectangle)
     QPainter painter(&result);
     painter.drawPixmap(QPointF(0, 0), top, QRectF(scaled(rectangle, top.devicePixelRatio())));
     return result;
+}
+
+QPixmap overlay(const QPixmap& base, const QPixmap& top)
+{
+    return overlay(base, top, QRect(QPoint(), sizeOf(top)));
 }
 
 QPixmap faded(const QPixmap& picture, qreal opacity)

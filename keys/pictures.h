@@ -27,11 +27,17 @@ namespace pictures {
 /// null and is named once in the log.
 [[nodiscard]] QPixmap load(const QString& path);
 
+/// In logical pixels.
+[[nodiscard]] QSize sizeOf(const QPixmap& picture);
+
 /// A part of a picture. The rectangle is in logical pixels, whatever the picture's device pixel ratio.
 [[nodiscard]] QPixmap crop(const QPixmap& picture, const QRect& rectangle);
 
 /// A copy of `base` with a logical rectangle of `top` drawn at its origin.
 [[nodiscard]] QPixmap overlay(const QPixmap& base, const QPixmap& top, const QRect& rectangle);
+
+/// The same with all of `top`.
+[[nodiscard]] QPixmap overlay(const QPixmap& base, const QPixmap& top);
 
 /// A copy of a picture at an opacity of 0 to 1.
 [[nodiscard]] QPixmap faded(const QPixmap& picture, qreal opacity);

@@ -29,7 +29,7 @@ int nextDown(const PitchSet& scale, int from)
 
 void store(Targets& targets, int key, int pitch)
 {
-    if (key >= lowestPitch && key <= highestPitch)
+    if (isOnKeyboard(key))
         targets[indexOf(key)] = pitch;
 }
 
@@ -113,7 +113,7 @@ const std::array<int, whiteCount>& whitePitches()
 
 int degreeOf(int pitch, int tonic)
 {
-    return ((pitch - tonic) % 12 + 12) % 12;
+    return ((pitch - tonic) % octave + octave) % octave;
 }
 
 PitchSet pitchesOf(int tonic, const Degrees& degrees)

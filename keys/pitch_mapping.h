@@ -16,17 +16,23 @@ inline constexpr int keyCount = highestPitch - lowestPitch + 1;
 inline constexpr int whiteCount = 52;
 inline constexpr int seedPitch = 60;
 inline constexpr int noTarget = -1;
+inline constexpr int octave = 12; ///< in semitones
 /// Width of a white key in scene units: one step of the anchor shift.
 inline constexpr int whiteKeyWidth = 17;
 
 /// Bit n is the degree n semitones above the tonic.
-using Degrees = std::bitset<12>;
+using Degrees = std::bitset<octave>;
 
 /// One flag a key, by MIDI note number less 21.
 using PitchSet = std::bitset<keyCount>;
 
 /// The out pitch of each in key, by MIDI note number less 21; noTarget for a silent key.
 using Targets = std::array<int, keyCount>;
+
+[[nodiscard]] constexpr bool isOnKeyboard(int pitch)
+{
+    return pitch >= lowestPitch && pitch <= highestPitch;
+}
 
 /// Index of a pitch in PitchSet and Targets; only meaningful from 21 to 108.
 [[nodiscard]] constexpr std::size_t indexOf(int pitch)

@@ -102,10 +102,9 @@ QList<QString> DatabaseLibraryPrivate::takeRecords(const QList<scale_data>& reco
 
 bool DatabaseLibrary::getScaleData(const QString& key, scale_data& out, UserRole role) const
 {
-    const auto found = d->scales.constFind(key);
-    if (found == d->scales.constEnd() || (role != AnyRole && isCustomScale(key) != (role == CustomRole)))
+    if (!containsScale(key, role))
         return false;
-    out = *found;
+    out = d->scales.value(key);
     return true;
 }
 

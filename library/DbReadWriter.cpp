@@ -29,6 +29,13 @@ QList<header_data> presentRecords()
     return records;
 }
 
+QList<QPointF> presentPositions()
+{
+    QList<QPointF> positions;
+    presets().getHeadersPosition(positions);
+    return positions;
+}
+
 void importScales(const QJsonArray& array)
 {
     LibraryInfo info;
@@ -50,10 +57,9 @@ void importScales(const QJsonArray& array)
 void importHeaders(const QJsonArray& array)
 {
     HeaderInfo info(true);
-    QList<QPointF> positions;
-    presets().getHeadersPosition(positions);
-    info.setPositions(positions);
+    info.setPositions(presentPositions());
     info.read(array);
+    QList<QPointF> positions;
     QList<header_data> records;
     info.getPositions(positions);
     info.getData(records);
@@ -61,6 +67,27 @@ void importHeaders(const QJsonArray& array)
     presets().updatePostions(positions);
     presets().nameUnknownScales(records);
     presets().reloadHeaders(records);
+}
+
+QJsonArray exportScales()
+{
+    QMap<QString, scale_data> scales;
+    mainWnd->library.getData(scales);
+    LibraryInfo info;
+    info.setData(scales);
+    QJsonArray array;
+    info.write(array);
+    return array;
+}
+
+QJsonArray exportHeaders()
+{
+    HeaderInfo info(true);
+    info.setData(presentRecords());
+    info.setPositions(presentPositions());
+    QJsonArray array;
+    info.write(array);
+    return array;
 }
 
 // The button moves as if dropped by a hand, which exchanges two presets, activates one and switches on. A
@@ -108,23 +135,8 @@ void DbReadWriter::restoreHeaders(const QJsonObject& root)
 
 void DbReadWriter::exportJsonDatabase(QJsonObject& root)
 {
-    LibraryInfo library;
-    QMap<QString, scale_data> scales;
-    mainWnd->library.getData(scales);
-    library.setData(scales);
-    QJsonArray scaleArray;
-    library.write(scaleArray);
-
-    HeaderInfo headers(true);
-    QList<QPointF> positions;
-    presets().getHeadersPosition(positions);
-    headers.setData(presentRecords());
-    headers.setPositions(positions);
-    QJsonArray headerArray;
-    headers.write(headerArray);
-
     root.insert(powerKey, mainWnd->powerItem->x());
     root.insert(anchorsKey, selector_access::anchorsPlace());
-    root.insert(scalesKey, scaleArray);
-    root.insert(headersKey, headerArray);
+    root.insert(scalesKey, exportScales());
+    root.insert(headersKey, exportHeaders());
 }

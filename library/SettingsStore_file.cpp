@@ -54,8 +54,7 @@ void setTonic(const QVariant& name)
 /// the first letter, nor those behind the twelfth.
 void setScale(const QString& word)
 {
-    constexpr int degrees = 12;
-    if (isScaleWord(QLatin1Char('x') + word.mid(1, degrees - 1)))
+    if (isScaleWord(QLatin1Char('x') + word.mid(1, scaleWordLength - 1)))
         scaleSelector().setScaleModifier(word, true);
 }
 

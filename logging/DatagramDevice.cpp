@@ -44,12 +44,12 @@ qint64 DatagramDevice::writeData(const char* data, qint64 size)
     const char* end = data + size;
     for (const char* lineEnd = std::find(data, end, '\n'); lineEnd != end;
          lineEnd = std::find(data, end, '\n')) {
-        begunLine.append(data, int(lineEnd + 1 - data));
+        begunLine.append(data, static_cast<int>(lineEnd + 1 - data));
         send(begunLine.constData(), begunLine.size());
         begunLine.clear();
         data = lineEnd + 1;
     }
-    begunLine.append(data, int(end - data));
+    begunLine.append(data, static_cast<int>(end - data));
     return size;
 }
 
@@ -60,6 +60,6 @@ void DatagramDevice::send(const char* data, qint64 size) const
     address.sin_port = htons(port);
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     for (qint64 sent = 0; sent < size; sent += mostOfADatagram)
-        ::sendto(socket, data + sent, std::size_t(std::min(mostOfADatagram, size - sent)), MSG_DONTWAIT,
-                 reinterpret_cast<const sockaddr*>(&address), sizeof address);
+        ::sendto(socket, data + sent, static_cast<std::size_t>(std::min(mostOfADatagram, size - sent)),
+                 MSG_DONTWAIT, reinterpret_cast<const sockaddr*>(&address), sizeof address);
 }

@@ -15,5 +15,5 @@ QTime LocalClock::now()
         knownSecond = utcMs / second;
         secondsTime = QDateTime::fromMSecsSinceEpoch(knownSecond * second).time();
     }
-    return secondsTime.addMSecs(int(utcMs % second));
+    return secondsTime.addMSecs(static_cast<int>(utcMs % second));
 }

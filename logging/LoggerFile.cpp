@@ -24,7 +24,7 @@ constexpr std::array<const char*, 7> levelWords = {"All\t",  "Debug\t", "Diag\t"
 const char* levelWord(LoggerModel::LoggerModelLogLevel level)
 {
     const bool isKnown = level >= LoggerModel::all && level <= LoggerModel::fatal;
-    return isKnown ? levelWords.at(std::size_t(level)) : "Unknown\t";
+    return isKnown ? levelWords.at(static_cast<std::size_t>(level)) : "Unknown\t";
 }
 
 /// Qt would warn of the others.
@@ -61,7 +61,7 @@ QString withTimeOfDay(QString fileName)
 LoggerFile::LoggerFile(const QString& name, LoggerModel::LoggerModelLogLevel level, unsigned fileSizeKb,
                        unsigned backups, bool uniqueName)
     : LoggerObserver(level), fileName(uniqueName ? withTimeOfDay(name) : name),
-      fileSize(qint64(fileSizeKb) << 10), backupFileCount(backups)
+      fileSize(static_cast<qint64>(fileSizeKb) << 10), backupFileCount(backups)
 {
     mpCheckForSimpleLogging();
     auto named = std::make_unique<QFile>();

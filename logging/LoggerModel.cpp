@@ -105,7 +105,7 @@ void LoggerModel::setQueueLength(unsigned length)
         return;
     const std::unique_lock lock(itemsLock);
     queueLength = length;
-    while (unsigned(items.size()) > queueLength)
+    while (static_cast<unsigned>(items.size()) > queueLength)
         delete items.takeFirst();
 }
 
@@ -117,7 +117,7 @@ unsigned LoggerModel::getQueueLength() const
 
 LoggerItem* LoggerModel::takeItem()
 {
-    return unsigned(items.size()) < queueLength ? new LoggerItem : items.takeFirst();
+    return static_cast<unsigned>(items.size()) < queueLength ? new LoggerItem : items.takeFirst();
 }
 
 void LoggerModel::log(LoggerModelLogLevel level, const QString& text, unsigned long long id)

@@ -15,10 +15,11 @@ LoggerModel::LoggerModelLogLevel LoggerModel::logLevelFromString(const QString& 
 {
     const auto* found = std::find_if(words.begin(), words.end(),
                                      [&](const char* known) { return word == QLatin1String(known); });
-    return found == words.end() ? noLevel : LoggerModelLogLevel(found - words.begin());
+    return found == words.end() ? noLevel : static_cast<LoggerModelLogLevel>(found - words.begin());
 }
 
 QString LoggerModel::logLevelToString(LoggerModelLogLevel level)
 {
-    return level < all || level > fatal ? QString() : QString::fromLatin1(words.at(std::size_t(level)));
+    return level < all || level > fatal ? QString()
+                                        : QString::fromLatin1(words.at(static_cast<std::size_t>(level)));
 }

@@ -17,7 +17,7 @@ bool LoggerObserver::mfMatchFilter(unsigned long long id) const
 
 unsigned LoggerObserver::mfMatchPID(unsigned long long id) const
 {
-    return id & log_id::number ? unsigned(id & 0xffffffffULL) : 0;
+    return id & log_id::number ? static_cast<unsigned>(id & 0xffffffffULL) : 0;
 }
 
 void LoggerObserver::mpSetFilter(unsigned long long id)

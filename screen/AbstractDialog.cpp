@@ -199,8 +199,7 @@ void AbstractDialog::specialKeyPress(int key)
 void AbstractDialog::setPanel(QWidget* widget, const QString& picturePath, const QSize& otherwise)
 {
     panelPicture = pictures::load(picturePath);
-    const QSize size = panelPicture.size() / panelPicture.devicePixelRatio();
-    widget->setFixedSize(panelPicture.isNull() ? otherwise : size);
+    widget->setFixedSize(panelPicture.isNull() ? otherwise : pictures::sizeOf(panelPicture));
     setPanel(widget);
 }
 

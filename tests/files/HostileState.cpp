@@ -218,7 +218,7 @@ QString faultOfNotes(MainWnd& window, RecordingPort& port)
         emit window.signalKey({0x90, note, 90});
         emit window.signalKey({0x80, note, 0});
         QList<QList<int>> wanted;
-        if (target != key_roles::noTarget)
+        if (target != pitch_mapping::noTarget)
             wanted = {{0x90, target, 90}, {0x80, target, 0}};
         if (port.takeLists() != wanted)
             return QStringLiteral("key %1 does not begin and end its note %2").arg(note).arg(target);

@@ -117,7 +117,7 @@ void checkStage(const MainWnd& window, Report& report)
     report.expect(std::isfinite(x) && std::abs(x) <= farthest,
                   QStringLiteral("the anchors are off the world"));
     for (const int target : targets(window))
-        report.expect(target == key_roles::noTarget ||
+        report.expect(target == pitch_mapping::noTarget ||
                           (target >= pitch_mapping::lowestPitch && target <= pitch_mapping::highestPitch),
                       counted("a key's target is %1", target));
 }
