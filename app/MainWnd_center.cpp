@@ -86,9 +86,9 @@ void MainWnd::createSceneCenter()
     ui.versionLabel->setOpenExternalLinks(true);
     ui.about->document()->setDocumentMargin(1); // three lines end above the shade of the display
     // A line break behind the last tag would count as text, in a larger font.
-    ui.about->setHtml(CenterScreen::getMainTextData(
-                          QStringLiteral(":/Resources/CenterScreen/MainCenterScreenTextData.html"))
-                          .trimmed());
+    //: The page in the display: a language has a file of its own, beside its other texts.
+    const QString page = tr(":/Resources/CenterScreen/MainCenterScreenTextData.html");
+    ui.about->setHtml(CenterScreen::getMainTextData(page).trimmed());
     centerScreen->creditLines =
         CenterScreen::parseCreditFile(QStringLiteral(":/Resources/CreditsScreen/CreditsData.txt"));
     centerScreen->creditLines.replaceInStrings(QStringLiteral("@VERSION@"), QLatin1String(sorvaneVersion));

@@ -78,7 +78,7 @@ void MainWnd::alertFile(const QString& text, const QString& file, const QString&
 {
     constexpr int longest = 40; // an alert does not break a word
     const QString name = shownText(QFileInfo(file).fileName(), longest);
-    AlertWidget alert(QString(), text.arg(name.toHtmlEscaped(), reason.toHtmlEscaped()),
-                      QStringLiteral("  OK  "), QString(), alert_error, this);
+    AlertWidget alert(QString(), text.arg(name.toHtmlEscaped(), reason.toHtmlEscaped()), tr("  OK  "),
+                      QString(), alert_error, this);
     static_cast<void>(alert.exec());
 }

@@ -87,7 +87,7 @@ void MainWnd::alertPortError(const RtMidiError& error)
 {
     const QString text = portErrorText(QString::fromStdString(error.getMessage()));
     qCWarning(lcApp, "%s", qUtf8Printable(text));
-    AlertWidget alert(QString(), text, QStringLiteral("  OK  "), QString(), alert_error, this);
+    AlertWidget alert(QString(), text, tr("  OK  "), QString(), alert_error, this);
     alert.resize(size());
     alert.show();
 }

@@ -1,6 +1,7 @@
 #include "app/Application.h"
 #include "app/EndSignals.h"
 #include "app/MainWnd.h"
+#include "app/Translations.h"
 #include "app/start.h"
 #include "app/tell.h"
 #include "app/vendor.h"
@@ -46,11 +47,22 @@ QString versionLine()
         .arg(QString::fromLatin1(sorvaneVersion), QString::fromLatin1(vendor::site));
 }
 
+/// Reads the arguments that something is wrong with once more, to say so in the user's language.
+int runFailing(int argc, char** argv)
+{
+    const QStringList arguments = toList(argc, argv);
+    const QCoreApplication application(argc, argv);
+    const Translations translations;
+    CommandLine wanted;
+    return fail(wanted.parse(arguments));
+}
+
 /// What needs no window and no display.
 int runPrinting(const CommandLine& wanted, int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     nameProgram();
+    const Translations translations;
     if (wanted.help)
         CommandLine::showHelp();
     if (wanted.version) {
@@ -89,6 +101,7 @@ int runStage(CommandLine& wanted, int argc, char** argv)
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     nameProgram();
     nameDesktopEntry();
+    const Translations translations;
     std::optional<QtMessages> messages;
     if (wanted.logLevel) {
         initializeLogFile(*wanted.logLevel);
@@ -124,9 +137,8 @@ int runStage(CommandLine& wanted, int argc, char** argv)
 int main(int argc, char** argv)
 {
     CommandLine wanted;
-    const QString error = wanted.parse(toList(argc, argv));
-    if (!error.isEmpty())
-        return fail(error);
+    if (!wanted.parse(toList(argc, argv)).isEmpty())
+        return runFailing(argc, argv);
     // A line for each note costs more than the note. QT_LOGGING_RULES has the last word.
     if (!wanted.debug && wanted.logLevel.value_or(LoggerModel::fatal) > LoggerModel::debug)
         QLoggingCategory::setFilterRules(QStringLiteral("sorvane.*.debug=false"));

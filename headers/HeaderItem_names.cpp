@@ -43,8 +43,10 @@ scale_data HeaderItem::libraryRecord()
     // Its own number must not count as taken.
     record.nameScenic1.clear();
     record.nameScenic2.clear();
-    scale = temporaryScale(record.scaleData, tr("User"),
-                           QString::number(mainWnd->headerController->findMinUserNum()));
+    //: Files hold it, and it is looked for there: "User" in every language.
+    const QString user = tr("User");
+    scale =
+        temporaryScale(record.scaleData, user, QString::number(mainWnd->headerController->findMinUserNum()));
     mainWnd->library.setScaleData(record.scaleData, scale, DatabaseLibrary::CustomRole);
     return scale;
 }

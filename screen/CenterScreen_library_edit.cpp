@@ -80,8 +80,9 @@ scale_data recordOf(const QString& word)
         return record;
     const QString number = QStringLiteral("%1").arg(
         static_cast<ScaleKeyController*>(mainWnd->scaleController)->curScaleNumber());
-    return {
-        word, CenterScreen::tr("User"), number, CenterScreen::tr("User") + QStringLiteral(" ") + number, {}};
+    //: Files hold it, and it is looked for there: "User" in every language.
+    const QString user = CenterScreen::tr("User");
+    return {word, user, number, user + QLatin1Char(' ') + number, {}};
 }
 
 } // namespace
