@@ -5,7 +5,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # Without this ccache keeps nothing that was built with a precompiled header.
 export CCACHE_SLOPPINESS=pch_defines,time_macros
 
-# build_preset PRESET [CMAKE_OPTION...]
+# build_preset PRESET [CMAKE_OPTION...]: builds all, or the targets that SORVANE_TARGETS names
 build_preset() {
     local preset=$1
     shift
@@ -17,5 +17,6 @@ build_preset() {
         return 1
     fi
     rm -f "$log"
-    cmake --build --preset "$preset"
+    # shellcheck disable=SC2086 # names of targets hold no blanks
+    cmake --build --preset "$preset" ${SORVANE_TARGETS:+--target $SORVANE_TARGETS}
 }

@@ -1,101 +1,144 @@
-// latency_bench [ROUNDS]: the round trip of a note through Sorvane beside that through a bare RtMidi
-// pass-through, in one run and note by note in turn, and a stream of 100,000 messages through each. Ends with
-// 1 if the aim is missed: median and 99th percentile at most one period above the pass-through, and nothing
-// lost that it does not lose.
+// latency_bench PERIOD FILE ROUNDS BUSY: plays the same notes through each candidate, one candidate at a time
+// and all of them in turn, round after round, so that a drift of the machine favours none. Writes when each
+// message left and when it came back; the report beside these programs makes figures of that. Run it by
+// latency_bench.sh.
 
-#include "JackPlayer.h"
+#include "Burden.h"
+#include "Lane.h"
 #include "PipeWireDaemon.h"
-#include "ProgramUnderTest.h"
+#include "XServer.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QRandomGenerator>
-#include <QThread>
-#include <QVector>
-#include <QtTest>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <sched.h>
 
 #include <algorithm>
 #include <cstdio>
 
 namespace {
 
-constexpr int period = 256, rate = 48000;
-constexpr int streamLength = 100000, streamPerSecond = 5000;
+constexpr quint32 rate = 48000;
 
-constexpr int whiteKeys[] = {60, 62, 64, 65, 67, 69, 71}; // one message in, one message out, on both ways
+const QVector<int>& keysOfFourOctaves()
+{
+    static const QVector<int> keys = [] {
+        QVector<int> white;
+        for (int key = 36; key < 84; ++key)
+            if (isWhite(key))
+                white.append(key);
+        return white;
+    }();
+    return keys;
+}
 
-struct Lane
+Lane::Note press(quint32 at, int key, int number)
+{
+    return {at, Lane::noteOn, key, 1 + number % 127};
+}
+
+Lane::Note release(quint32 at, int key)
+{
+    return {at, Lane::noteOff, key, 0};
+}
+
+/// Press and release in turn, so many messages a second. Keys and velocities tell the messages apart.
+QVector<Lane::Note> stream(int messages, quint32 perSecond)
+{
+    const QVector<int>& keys = keysOfFourOctaves();
+    QVector<Lane::Note> notes;
+    for (int i = 0; i < messages / 2; ++i) {
+        const int key = keys.at(i % keys.size());
+        notes.append(press(static_cast<quint32>(2 * i) * rate / perSecond, key, i));
+        notes.append(release(static_cast<quint32>(2 * i + 1) * rate / perSecond, key));
+    }
+    return notes;
+}
+
+/// Ten keys down at one frame, and up at one, ten times a second.
+QVector<Lane::Note> chords(int count)
+{
+    const QVector<int> keys = keysOfFourOctaves().mid(7, 10);
+    QVector<Lane::Note> notes;
+    for (int chord = 0; chord < count; ++chord) {
+        const auto at = static_cast<quint32>(chord) * rate / 10;
+        for (int i = 0; i < keys.size(); ++i)
+            notes.append(press(at, keys.at(i), 10 * chord + i));
+        for (const int key : keys)
+            notes.append(release(at + rate / 20, key));
+    }
+    return notes;
+}
+
+struct Piece
 {
     const char* name;
-    JackPlayer player;
-    QVector<double> frames;
-    int lost = 0;
-
-    bool open(const QString& input, const QString& output)
-    {
-        return player.connectOutputTo(input) && player.connectInputTo(output) && player.waitForEcho();
-    }
+    QVector<Lane::Note> notes;
 };
 
-/// One note-on; the frames from its departure to its return, or -1.
-double roundTrip(JackPlayer& player, const JackPlayer::Message& message, quint32 offset)
+const QVector<Piece>& pieces()
 {
-    quint32 sent = 0;
-    while (player.readSentFrame(sent)) {
-    }
-    player.sendAt(message, offset);
-    QElapsedTimer timer;
-    timer.start();
-    JackPlayer::Event event{};
-    while (!player.readEvent(event)) {
-        if (timer.elapsed() > 1000)
-            return -1;
-        QThread::usleep(200);
-    }
-    return player.readSentFrame(sent) ? static_cast<double>(event.frame - sent) : -1;
+    static const QVector<Piece> all{
+        {"stream", stream(600, 480)}, {"chords", chords(12)}, {"flood", stream(2000, 5000)}};
+    return all;
 }
 
-void measureRound(Lane& lane, int round)
+/// Whether the service gives the threads that carry messages real-time priority here.
+bool isRealTime()
 {
-    const int note = whiteKeys[round % 7];
-    for (const int status : {0x90, 0x80}) {
-        const auto offset = static_cast<quint32>(QRandomGenerator::global()->bounded(period));
-        const double frames = roundTrip(lane.player, {status, note, 64}, offset);
-        if (frames < 0)
-            ++lane.lost;
-        else
-            lane.frames.append(frames);
+    const QStringList threads =
+        QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    return std::any_of(threads.begin(), threads.end(), [](const QString& id) {
+        return (sched_getscheduler(id.toInt()) & 0x7) == SCHED_FIFO;
+    });
+}
+
+/// Appends what came of each piece; false if there is no way through a candidate that is installed.
+bool measure(const Candidate& candidate, int round, QJsonObject& result)
+{
+    if (!candidate.isThere()) {
+        result.insert(QStringLiteral("missing"), QJsonArray{candidate.name});
+        return true;
     }
-}
-
-double percentile(QVector<double> values, double share)
-{
-    std::sort(values.begin(), values.end());
-    return values.isEmpty() ? -1 : values.at(static_cast<int>(share * (values.size() - 1)));
-}
-
-/// How many of the stream's messages do not come back.
-int streamLoss(Lane& lane)
-{
-    QElapsedTimer timer;
-    timer.start();
-    int sent = 0, back = 0;
-    JackPlayer::Event event{};
-    while (sent < streamLength || timer.elapsed() < 1000LL * streamLength / streamPerSecond + 2000) {
-        const qint64 due = std::min<qint64>(streamLength, timer.elapsed() * streamPerSecond / 1000);
-        for (; sent < due; ++sent)
-            lane.player.send({sent % 2 ? 0x80 : 0x90, whiteKeys[sent / 2 % 7], 64});
-        while (lane.player.readEvent(event))
-            ++back;
-        QThread::usleep(500);
+    Lane lane(candidate);
+    if (!lane.open()) {
+        std::fprintf(stderr, "latency_bench: %s: %s\n", qUtf8Printable(candidate.name),
+                     qUtf8Printable(lane.reason()));
+        return false;
     }
-    return sent - back;
+    QJsonArray played = result.value(QLatin1String("played")).toArray();
+    for (const Piece& piece : pieces()) {
+        const Lane::Played all = lane.play(piece.notes);
+        played.append(QJsonObject{{"lane", candidate.name},
+                                  {"piece", QLatin1String(piece.name)},
+                                  {"round", round},
+                                  {"due", piece.notes.size()},
+                                  {"sent", all.sent},
+                                  {"back", all.back}});
+    }
+    result.insert(QStringLiteral("played"), played);
+    result.insert(QStringLiteral("realTime"), isRealTime());
+    return true;
 }
 
-void report(const Lane& lane)
+bool measureAll(int rounds, QJsonObject& result)
 {
-    std::printf("%-14s %8d %10.0f %10.0f %8d\n", lane.name, lane.frames.size(), percentile(lane.frames, 0.5),
-                percentile(lane.frames, 0.99), lane.lost);
+    const QVector<Candidate> candidates = allCandidates(QStringLiteral("player"));
+    for (int round = 0; round < rounds; ++round)
+        for (int i = 0; i < candidates.size(); ++i)
+            if (!measure(candidates.at((round + i) % candidates.size()), round, result))
+                return false;
+    return true;
+}
+
+bool write(const QString& path, const QJsonObject& result)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) &&
+           file.write(QJsonDocument(result).toJson(QJsonDocument::Compact)) > 0;
 }
 
 } // namespace
@@ -103,36 +146,19 @@ void report(const Lane& lane)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    const int rounds = argc > 1 ? QByteArray(argv[1]).toInt() : 4000;
-    PipeWireDaemon daemon;
-    if (!daemon.start()) {
-        std::fprintf(stderr, "no daemon: %s\n", qUtf8Printable(daemon.reason()));
+    const auto number = [&](int i) { return argc > i ? QByteArray(argv[i]).toInt() : 0; };
+    const int period = number(1), rounds = number(3), busy = number(4);
+    if (argc != 5 || period <= 0 || rounds <= 0 || busy < 0) {
+        std::fprintf(stderr, "usage: latency_bench PERIOD FILE ROUNDS BUSY\n");
         return 2;
     }
-    ProgramUnderTest sorvane(QStringLiteral(SORVANE_PROGRAM)),
-        passThrough(QStringLiteral(PASSTHROUGH_PROGRAM));
-    sorvane.start({"--headless", "--midi-api", "jack", "--power", "on"});
-    passThrough.start({});
-    Lane lanes[] = {{"sorvane", JackPlayer("one"), {}, 0}, {"pass-through", JackPlayer("two"), {}, 0}};
-    if (!lanes[0].open(":Sorvane MIDI In", ":Sorvane MIDI Out") ||
-        !lanes[1].open(":passthrough input", ":passthrough output")) {
-        std::fprintf(stderr, "no way through the programs\n");
+    PipeWireDaemon daemon(period);
+    XServer screen;
+    if (!daemon.start() || !screen.start()) {
+        std::fprintf(stderr, "latency_bench: no daemon or no screen: %s\n", qUtf8Printable(daemon.reason()));
         return 2;
     }
-    for (int round = 0; round < rounds; ++round)
-        for (Lane& lane : lanes)
-            measureRound(lane, round);
-    std::printf("round trip in frames (one period is %d, at %d Hz)\n%-14s %8s %10s %10s %8s\n", period, rate,
-                "", "notes", "median", "99 %", "lost");
-    for (const Lane& lane : lanes)
-        report(lane);
-    const double median = percentile(lanes[0].frames, 0.5) - percentile(lanes[1].frames, 0.5);
-    const double high = percentile(lanes[0].frames, 0.99) - percentile(lanes[1].frames, 0.99);
-    std::printf("%-14s %8s %10.2f %10.2f  periods\n", "difference", "", median / period, high / period);
-    for (Lane& lane : lanes) {
-        lane.lost += streamLoss(lane);
-        std::printf("%-14s %d messages at %d a second: %d lost with those above\n", lane.name, streamLength,
-                    streamPerSecond, lane.lost);
-    }
-    return median <= period && high <= period && lanes[0].lost <= lanes[1].lost ? 0 : 1;
+    QJsonObject result{{"period", period}, {"rate", static_cast<int>(rate)}, {"busy", busy}};
+    const Burden burden(busy);
+    return measureAll(rounds, result) && write(QString::fromLocal8Bit(argv[2]), result) ? 0 : 2;
 }

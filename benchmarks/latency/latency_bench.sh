@@ -1,4 +1,5 @@
 #!/bin/bash
-# latency_bench.sh BUILD_FOLDER [ROUNDS]: runs latency_bench with PipeWire's JACK library, at periods of 256 frames.
+# latency_bench.sh BUILD_FOLDER PERIOD FILE ROUNDS BUSY: runs latency_bench with PipeWire's JACK library at periods
+# of so many frames, beside so many busy threads.
 set -eu
-exec pw-jack -p 256 "$1/benchmarks/latency/latency_bench" "${2:-4000}"
+exec pw-jack -p "$2" "$1/benchmarks/latency/latency_bench" "${@:2}"

@@ -1,12 +1,15 @@
-// startup_bench PROGRAM [RUNS]: from the start of a process to its first painted frame, its memory once it
-// rests, and how often it wakes up while nothing happens. Needs an X server whose screen the window covers:
-// see startup_bench.sh beside this file.
+// startup_bench PROGRAM FILE [RUNS]: from the start of a process to its first painted frame, its memory once
+// it rests, and how often it wakes up while nothing happens. Writes all values; the report beside these
+// programs makes figures of them. Needs an X server whose screen the window covers: see startup_bench.sh.
 
 #include <QColor>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QPixmap>
 #include <QProcess>
 #include <QScreen>
@@ -20,6 +23,7 @@ namespace {
 
 constexpr int giveUpMs = 10000;
 constexpr unsigned long settleMs = 2000, idleMs = 10000;
+constexpr int memoryRuns = 3;
 
 bool isPainted()
 {
@@ -66,34 +70,83 @@ void stop(QProcess& process)
         QThread::msleep(5);
 }
 
+struct Sample
+{
+    const char *name, *unit;
+    QJsonArray values;
+};
+
+double mebibytes(qint64 pid, const char* file, const char* field)
+{
+    return static_cast<double>(numberAfter(QStringLiteral("/proc/%1/%2").arg(pid).arg(file), field)) / 1024;
+}
+
+Sample firstFrames(const QString& program, int runs)
+{
+    Sample times{"firstFrame", "ms", {}};
+    for (int run = 0; run < runs; ++run) {
+        QProcess process;
+        times.values.append(startToFrameMs(process, program));
+        stop(process);
+    }
+    return times;
+}
+
+QVector<Sample> restsWithWindow(const QString& program)
+{
+    Sample resident{"resident", "MiB", {}}, proportional{"proportional", "MiB", {}},
+        wakes{"wakeUps", "times", {}};
+    for (int run = 0; run < memoryRuns; ++run) {
+        QProcess process;
+        startToFrameMs(process, program);
+        QThread::msleep(settleMs);
+        resident.values.append(mebibytes(process.processId(), "status", "VmRSS"));
+        proportional.values.append(mebibytes(process.processId(), "smaps_rollup", "Pss"));
+        if (run == 0) {
+            const long before = wakeUps(process.processId());
+            QThread::msleep(idleMs);
+            wakes.values.append(static_cast<qint64>(wakeUps(process.processId()) - before));
+        }
+        stop(process);
+    }
+    return {resident, proportional, wakes};
+}
+
+Sample restsHeadless(const QString& program)
+{
+    Sample resident{"residentHeadless", "MiB", {}};
+    for (int run = 0; run < memoryRuns; ++run) {
+        QProcess process;
+        process.start(program, {"--headless", "--no-virtual"});
+        process.waitForStarted();
+        QThread::msleep(settleMs);
+        resident.values.append(mebibytes(process.processId(), "status", "VmRSS"));
+        stop(process);
+    }
+    return resident;
+}
+
+bool write(const QString& path, const QVector<Sample>& samples)
+{
+    QJsonObject all;
+    for (const Sample& sample : samples)
+        all.insert(QLatin1String(sample.name),
+                   QJsonObject{{"unit", QLatin1String(sample.unit)}, {"values", sample.values}});
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) &&
+           file.write(QJsonDocument(QJsonObject{{"samples", all}}).toJson()) > 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     const QGuiApplication application(argc, argv);
-    if (argc < 2)
+    if (argc < 3)
         return 2;
     const QString program = QString::fromLocal8Bit(argv[1]);
-    const int runs = argc > 2 ? QByteArray(argv[2]).toInt() : 21;
-
-    QVector<qint64> times;
-    for (int run = 0; run < runs; ++run) {
-        QProcess process;
-        times.append(startToFrameMs(process, program));
-        stop(process);
-    }
-    std::sort(times.begin(), times.end());
-    std::printf("start to first painted frame: median %lld ms, worst %lld ms of %d runs\n",
-                times.at(times.size() / 2), times.last(), runs);
-
-    QProcess process;
-    startToFrameMs(process, program);
-    QThread::msleep(settleMs);
-    const QString status = QStringLiteral("/proc/%1/status").arg(process.processId());
-    std::printf("resident memory: %.1f MiB\n", static_cast<double>(numberAfter(status, "VmRSS")) / 1024.0);
-    const long before = wakeUps(process.processId());
-    QThread::msleep(idleMs);
-    std::printf("wake-ups in %lu s of rest: %ld\n", idleMs / 1000, wakeUps(process.processId()) - before);
-    stop(process);
-    return 0;
+    QVector<Sample> samples{firstFrames(program, argc > 3 ? QByteArray(argv[3]).toInt() : 21)};
+    samples += restsWithWindow(program);
+    samples += restsHeadless(program);
+    return write(QString::fromLocal8Bit(argv[2]), samples) ? 0 : 2;
 }

@@ -18,16 +18,22 @@ constexpr int echoStatus = 0xBF, echoController = 119;
 constexpr int portWaitMs = 10000;
 
 template <typename Record>
-bool take(jack_ringbuffer_t* ring, Record& record)
+bool look(jack_ringbuffer_t* ring, Record& record)
 {
-    if (jack_ringbuffer_read_space(ring) < sizeof record)
-        return false;
-    jack_ringbuffer_read(ring, reinterpret_cast<char*>(&record), sizeof record);
-    return true;
+    return jack_ringbuffer_peek(ring, reinterpret_cast<char*>(&record), sizeof record) == sizeof record;
 }
 
 template <typename Record>
-void put(jack_ringbuffer_t* ring, const Record& record)
+bool take(jack_ringbuffer_t* ring, Record& record)
+{
+    const bool isThere = look(ring, record);
+    if (isThere)
+        jack_ringbuffer_read_advance(ring, sizeof record);
+    return isThere;
+}
+
+template <typename Record>
+void give(jack_ringbuffer_t* ring, const Record& record)
 {
     if (jack_ringbuffer_write_space(ring) >= sizeof record)
         jack_ringbuffer_write(ring, reinterpret_cast<const char*>(&record), sizeof record);
@@ -67,11 +73,15 @@ void JackPlayer::process(jack_nframes_t frames)
     jack_midi_clear_buffer(out);
     jack_nframes_t offset = 0;
     Outgoing next{};
-    while (take(outgoing.get(), next)) {
-        offset = std::max(offset, std::min(next.offset, frames - 1));
+    while (look(outgoing.get(), next)) {
+        const int ahead = next.onClock ? static_cast<qint32>(next.event.frame - start) : 0;
+        if (ahead >= static_cast<int>(frames))
+            break;
+        jack_ringbuffer_read_advance(outgoing.get(), sizeof next);
+        offset = std::max(offset, static_cast<jack_nframes_t>(std::max(0, ahead)));
         if (jack_midi_event_write(out, offset, next.event.bytes, static_cast<std::size_t>(next.event.size)) ==
             0)
-            put(sentFrames.get(), quint32(start + offset));
+            give(sentFrames.get(), quint32(start + offset));
     }
     void* in = jack_port_get_buffer(input, frames);
     const jack_nframes_t count = jack_midi_get_event_count(in);
@@ -83,7 +93,7 @@ void JackPlayer::process(jack_nframes_t frames)
         record.size = static_cast<int>(std::min<std::size_t>(event.size, sizeof record.bytes));
         std::memcpy(record.bytes, event.buffer, static_cast<std::size_t>(record.size));
         record.frame = start + event.time;
-        put(incoming.get(), record);
+        give(incoming.get(), record);
     }
 }
 
@@ -120,17 +130,23 @@ bool JackPlayer::connectInputTo(const QString& ending)
 
 void JackPlayer::send(const Message& message)
 {
-    sendAt(message, 0);
+    put(message, 0, false);
 }
 
-void JackPlayer::sendAt(const Message& message, quint32 offset)
+void JackPlayer::sendOn(const Message& message, quint32 frame)
+{
+    put(message, frame, true);
+}
+
+void JackPlayer::put(const Message& message, quint32 frame, bool onClock)
 {
     Outgoing next{};
     next.event.size = message.size();
-    next.offset = offset;
+    next.event.frame = frame;
+    next.onClock = onClock;
     for (int i = 0; i < message.size(); ++i)
         next.event.bytes[i] = static_cast<unsigned char>(message.at(i));
-    put(outgoing.get(), next);
+    give(outgoing.get(), next);
 }
 
 bool JackPlayer::readEvent(Event& event)

@@ -33,8 +33,8 @@ public:
     bool connectInputTo(const QString& ending);
 
     void send(const Message& message);
-    /// At the given frame within the next period.
-    void sendAt(const Message& message, quint32 offset);
+    /// At the given frame of the server's clock, behind all that was given before; at once if it has passed.
+    void sendOn(const Message& message, quint32 frame);
     [[nodiscard]] Message read();
     [[nodiscard]] bool readEvent(Event& event);
     /// The frame at which the oldest message not asked for yet was sent.
@@ -55,8 +55,9 @@ private:
     struct Outgoing
     {
         Event event;
-        quint32 offset;
+        bool onClock; ///< at the event's frame; else as soon as can be
     };
+    void put(const Message& message, quint32 frame, bool onClock);
     static int onProcess(jack_nframes_t frames, void* self);
     void process(jack_nframes_t frames);
     [[nodiscard]] QByteArray findPort(const QString& ending, unsigned long flags) const;
