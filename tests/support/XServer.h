@@ -15,6 +15,7 @@ public:
     ~XServer();
 
     bool start();
+    [[nodiscard]] qint64 pid() const { return process.processId(); }
 
     /// Real events through the server's test extension.
     static bool click(QPoint pos, int button = 1);

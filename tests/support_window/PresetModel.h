@@ -253,6 +253,6 @@ private:
             record.names = played[record.word] = {"User", freeNumber()};
     }
 
-    const std::map<std::string, Names> library;
+    std::map<std::string, Names> library;
     std::map<std::string, Names> played; ///< words of no category, under their numbers
 };
