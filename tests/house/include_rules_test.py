@@ -54,7 +54,7 @@ def spoilt(path, before, after):
 FIRST = '#include "low/tune.h"\n'
 # What breaks which rule, and the line that tells of it.
 BREACHES = (
-    (include_rules.homeless, {"new/lone.cpp": ""}, "new/lone.cpp"),
+    (include_rules.homeless, {"new/lone.cpp": '#include "low/tune.h"\n'}, "new/lone.cpp"),
     (include_rules.homeless, spoilt("docs/architecture.md", "| `tests` |", "| `tests/b` |"), "tests/a/Hand.h"),
     (include_rules.forms, spoilt("high/Window.cpp", '"high/', '"'), 'high/Window.cpp: "Window.h"'),
     (include_rules.forms, spoilt("high/Window.cpp", '"high/', '"../high/'), 'high/Window.cpp: "../high/Window.h"'),
