@@ -16,7 +16,6 @@
 #include <QThread>
 #include <QVector>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace {

@@ -16,6 +16,7 @@ PATH = re.compile(r"[\w.*@+-]+(/[\w.*@+-]+)+/?")
 FILE = re.compile(r"[\w*-]+\.(cpp|h|py|sh|ui|json|md|qrc|txt)")
 OPTION = re.compile(r"--([a-z-]+)(=\w+)?")
 NAME = re.compile(r"(?:(\w+)::)?(\w+)(?:\(\))?")
+STANDS_FOR = re.compile(r"_[A-Z]{2,}(?=\.)")  # i18n/sorvane_LANGUAGE.ts stands for each of them
 WORD = re.compile(r"\w+")
 COMMENT = re.compile(r"//[^\n]*|/\*.*?\*/", re.DOTALL)
 # In a drawing whatever is written as code is: signalKey, connecter::mycallback.
@@ -37,7 +38,7 @@ class Tree:
         self.words = set().union(*(WORD.findall(text) for text in self.code.values()), (path.stem for path in found))
 
     def has_path(self, path):
-        return any(self.root.glob(path.rstrip("/")))
+        return any(self.root.glob(STANDS_FOR.sub("_*", path.rstrip("/"))))
 
     def has_file(self, name):
         return any(Path(known).match(name) for known in self.names)

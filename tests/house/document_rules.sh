@@ -71,4 +71,8 @@ for document in README.md docs/user-guide.md; do
         options | while read -r option; do grep -qE -- "\`--${option}[\` =]" "$document" || echo "--$option"; done
     )"
 done
+rule "folders of tests that tests/README.md does not tell of:" "$(
+    find tests -mindepth 1 -maxdepth 1 -type d -printf '%f\n' | sort |
+        while read -r folder; do grep -qE "\`$folder\`" tests/README.md || echo "tests/$folder"; done
+)"
 exit $breaches

@@ -6,7 +6,6 @@
 #include <jack/types.h>
 
 #include <atomic>
-#include <memory>
 
 /// A JACK client that sends system exclusive messages of several hundred bytes: nothing may come of them.
 class SysexPlayer
