@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ChildPlaces.h"
 #include "app/PortKeeper.h"
 #include "headers/HeaderItem.h"
 #include "keys/FloatingButton.h"
@@ -46,9 +47,6 @@ public:
     void setBackgroundSwitches(bool on);
     /// The library sleeps with the power and comes back with it as the user left it.
     void setLibraryPower(bool on);
-    /// Asks before something is lost. True if the user pressed the button of that text; the other is
-    /// "Cancel".
-    [[nodiscard]] bool confirmAlert(const QString& text, const QString& accept);
     [[nodiscard]] bool isPowerOn() const;
     /// A dialog or a menu is open: keys mean that.
     [[nodiscard]] bool isOccupied() const { return dialogOpen || QApplication::activePopupWidget(); }
@@ -57,11 +55,16 @@ public:
     void createFloatingSwitches() {} ///< empty: there are no floating switches
 
     // Window (MainWnd_window.cpp)
+    /// Asks before something is lost. True if the user pressed the button of that text; the other is
+    /// "Cancel".
+    [[nodiscard]] bool confirmAlert(const QString& text, const QString& accept);
     bool eventFilter(QObject* object, QEvent* event) override;
 
-    // Centre screen (MainWnd_center.cpp)
+    // Buttons (MainWnd_buttons.cpp)
     /// Keeps the stacking of the two large hit areas in step with the centre screen.
     void didCenterSceneChange();
+
+    // Centre screen (MainWnd_center.cpp)
     /// Opens the library, or goes back to the scene before it.
     void showLibraryScreen(bool show);
     /// The centre screen's scene of that number, 1 to 4, with the ways that lead out of it; another number
@@ -239,18 +242,23 @@ private:
     void createShortcuts();
     [[nodiscard]] bool filterKeyPress(QEvent* event);
     void rememberPlaces();
-    void placeChildren();
 
-    // Centre screen (MainWnd_center.cpp)
-    void createGame();
+    // Buttons (MainWnd_buttons.cpp)
+    [[nodiscard]] QList<QPushButton*> displayButtons() const;
+    void dressButtons();
     [[nodiscard]] QList<QWidget*> hitAreas() const;
-    void maskHitAreas(const QPolygon& game);
     void lowerHitAreas();
     void raiseWayBack();
     void raiseButtons();
+    void maskHitAreas(const QPolygon& game);
+    void leavePages();
     void backToDefaultScene();
+    void turnPage(bool open, QPushButton* otherPage, void (CenterScreen::*enter)());
     void openPage(const char* address);
     void clickFocusedButton(int key);
+
+    // Centre screen (MainWnd_center.cpp)
+    void createGame();
     void toggleLibrary();
     void openPorts();
 
@@ -279,14 +287,7 @@ private:
     [[nodiscard]] bool followRow(QListWidgetItem* item, Port*& port, const Open& open);
     void alertPortError(const RtMidiError& error);
 
-    /// A child and its x in the form; it moves by `halves` halves of the width beyond the form's own.
-    struct Place
-    {
-        QWidget* child;
-        int formX;
-        int halves;
-    };
-    std::vector<Place> places;
+    ChildPlaces places;
     QList<QGraphicsItem*> selectorItems; ///< what sleeps with the power off
     QList<QList<int>> waitingMessages;   ///< received and not yet played
     bool holdMessages = false;

@@ -33,15 +33,15 @@ MainWnd::Digits cutSheet(int sheet)
     return digits;
 }
 
-/// Two glyphs without a space between them.
-QPixmap joined(const QPixmap& left, const QPixmap& right, const QPixmap& third, int width)
+/// Up to three glyphs without a space between them, on a picture of that width.
+QPixmap joined(const QPixmap& first, const QPixmap& second, const QPixmap& third, int width)
 {
     QPixmap result = pictures::transparent({width, digitHeight});
     QPainter painter(&result);
-    qreal x = 0;
-    for (const QPixmap& glyph : {left, right, third}) {
-        painter.drawPixmap(QPointF(x, 0), glyph);
-        x += glyph.width() / glyph.devicePixelRatio();
+    int x = 0;
+    for (const QPixmap& glyph : {first, second, third}) {
+        painter.drawPixmap(x, 0, glyph);
+        x += pictures::sizeOf(glyph).width();
     }
     return result;
 }

@@ -92,11 +92,6 @@ void MainWnd::alertPortError(const RtMidiError& error)
     alert.show();
 }
 
-void MainWnd::focusInKeyboard()
-{
-    ui.inKeyboardGraphicsView->setFocus(Qt::OtherFocusReason);
-}
-
 void MainWnd::scanMIDIPorts()
 {
     const bool service = midiService().isAvailable();

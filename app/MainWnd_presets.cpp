@@ -4,13 +4,13 @@
 
 #include "headers/DiagramScene.h"
 #include "headers/HeaderController.h"
+#include "headers/selector_access.h"
 #include "keys/PowerItem.h"
 #include "keys/ScaleKeyController.h"
 #include "keys/key_roles.h"
 #include "library/default_tables.h"
 #include "library/scale_word.h"
 #include "logging/categories.h"
-#include "screen/AlertWidget.h"
 #include "screen/CenterScreen.h"
 
 #include <algorithm>
@@ -84,7 +84,7 @@ void MainWnd::checkScaleMatches(bool)
 {
     if (!centerScreen || !headerController || !scaleController)
         return; // still under construction
-    const QString word = static_cast<ScaleKeyController*>(scaleController)->scaleModifier();
+    const QString word = selector_access::scaleSelector().scaleModifier();
     if (word.isEmpty())
         return centerScreen->showExclamationMark(false);
     if (headerController->activeHeader)
@@ -129,10 +129,4 @@ bool MainWnd::findPowerItemPosition(QPointF pos)
     if (!found)
         powerItem->restorePos();
     return found;
-}
-
-bool MainWnd::confirmAlert(const QString& text, const QString& accept)
-{
-    AlertWidget alert(QString(), text, accept, tr("Cancel"), alert_warning, this);
-    return alert.exec() == 1;
 }

@@ -1,10 +1,11 @@
-// The window itself: keys of the computer keyboard, and the places of its children.
+// The window itself: keys of the computer keyboard, the places of its children, and what it asks.
 
 #include "app/MainWnd.h"
 
 #include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
 #include "screen/AbstractListWidget.h"
+#include "screen/AlertWidget.h"
 #include "screen/CenterScreen.h"
 #include "screen/LibraryView.h"
 
@@ -113,7 +114,7 @@ bool MainWnd::filterKeyPress(QEvent* event)
 void MainWnd::rememberPlaces()
 {
     for (QWidget* child : {ui.outKeyboardGraphicsView, ui.inKeyboardGraphicsView})
-        places.push_back({child, child->x(), 2});
+        places.remember(child, 2);
     for (QWidget* child : std::initializer_list<QWidget*>{ui.centerGraphicsView,
                                                           ui.buttonMIDIinOut,
                                                           ui.buttonCredits,
@@ -134,25 +135,24 @@ void MainWnd::rememberPlaces()
                                                           ui.versionLabel,
                                                           centerScreen->inPortList,
                                                           centerScreen->outPortList})
-        places.push_back({child, child->x(), 1});
+        places.remember(child, 1);
     const QList<QWidget*> libraryWidgets = centerScreen->libraryView()->widgets();
     for (QWidget* child : libraryWidgets)
-        places.push_back({child, child->x(), 1});
+        places.remember(child, 1);
     setMinimumSize(formWidth, stageHeight);
     setMaximumSize(stageWidth, stageHeight);
     resize(stageWidth, stageHeight);
-    placeChildren();
-}
-
-void MainWnd::placeChildren()
-{
-    const int beyond = width() - formWidth;
-    for (const Place& place : places)
-        place.child->move(place.formX + beyond * place.halves / 2, place.child->y());
+    places.apply(width() - formWidth);
 }
 
 void MainWnd::resizeEvent(QResizeEvent* event)
 {
     QDialog::resizeEvent(event);
-    placeChildren();
+    places.apply(width() - formWidth);
+}
+
+bool MainWnd::confirmAlert(const QString& text, const QString& accept)
+{
+    AlertWidget alert(QString(), text, accept, tr("Cancel"), alert_warning, this);
+    return alert.exec() == 1;
 }

@@ -2,6 +2,7 @@
 
 #include "app/MainWnd.h"
 #include "app/tell.h"
+#include "headers/selector_access.h"
 #include "keys/PowerItem.h"
 #include "keys/ScaleKeyController.h"
 #include "keys/TonicKeyController.h"
@@ -83,9 +84,9 @@ QString selectPorts(CommandLine& wanted)
 void setSelectors(const CommandLine& wanted, MainWnd& window)
 {
     if (!wanted.tonic.isEmpty())
-        static_cast<TonicKeyController*>(window.tonicController)->setTonicModifier(wanted.tonic, true, true);
+        selector_access::tonicSelector().setTonicModifier(wanted.tonic, true, true);
     if (!wanted.scale.isEmpty())
-        static_cast<ScaleKeyController*>(window.scaleController)->setScaleModifier(wanted.scale, true);
+        selector_access::scaleSelector().setScaleModifier(wanted.scale, true);
     // Also without a wish: a remap with the power off leaves the black keys in the colour of presets.
     window.setPower(wanted.power.value_or(window.powerItem->isSwitchOn()));
 }

@@ -31,6 +31,8 @@ public:
     /// The header of the next black key below the active one, but for the power button's; nothing at the end.
     void setActiveHeaderPrev();
     void setActiveHeaderNext();
+    /// Shows the active header in the selectors as a recall does, the anchors included.
+    void showActiveHeader();
     /// The first header of that key, or null.
     [[nodiscard]] HeaderItem* findHeader(int keyNumber) const;
     [[nodiscard]] HeaderItem* findHeader(header_status status) const;
@@ -57,8 +59,6 @@ public:
     void getHeadersData(QList<header_data>& data) const;
     /// A short list moves only the first headers. Kept: so spelt.
     void updatePostions(const QList<QPointF>& positions);
-    /// Shows the active header in the selectors as a recall does, the anchors included.
-    void showActiveHeader();
     /// A short list writes only the first headers.
     void reloadHeaders(const QList<header_data>& data);
     /// Before records are reloaded: replaces the temporary records of the library by those of the words in

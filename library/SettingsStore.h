@@ -59,8 +59,8 @@ public:
     static Ports rememberPorts(const QJsonObject& root);
 
 private:
-    static QString load(const QString& file, QJsonObject& root);
-    static QString save(const QString& file);
+    [[nodiscard]] static QString load(const QString& file, QJsonObject& root);
+    [[nodiscard]] static QString save(const QString& file);
     static void processAfterLoad(const QJsonObject& loaded);
     static void processBeforeSave();
 

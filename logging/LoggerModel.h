@@ -39,7 +39,7 @@ public:
     /// "" for any other value.
     [[nodiscard]] static QString logLevelToString(LoggerModelLogLevel level);
 
-    // Observers
+    // Observers (LoggerModel.cpp)
     /// Appends it unless it is there already. It stays its maker's, who takes it off before it goes.
     void registerObserver(LoggerObserver* observer);
     /// Takes off that one, or with null all of them; only those are deleted, if `destroy` is true. Behind it
@@ -49,7 +49,7 @@ public:
     void setObserverUpdateInterval(unsigned intervalMs);
     [[nodiscard]] unsigned getObserverUpdateInterval() const;
 
-    // Entries
+    // Entries (LoggerModel.cpp)
     /// How many entries are kept; 0 is ignored. Fewer than there are drop the oldest at once.
     void setQueueLength(unsigned length);
     [[nodiscard]] unsigned getQueueLength() const;
@@ -60,7 +60,7 @@ public:
     /// An entry that is made by what is written to the stream, at its end (LoggerStream.h).
     LoggerStream log(LoggerModelLogLevel level, unsigned long long id);
 
-    // Handing out
+    // Handing out (LoggerModel.cpp)
     /// Hands the entries that have not been handed out to every observer.
     void fireLogEntries();
     /// Hands all entries to that observer and leaves them as they are. Null is ignored.

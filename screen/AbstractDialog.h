@@ -61,15 +61,18 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    [[nodiscard]] MainWnd* livingWindow() const;
-    [[nodiscard]] bool takesKeys() const;
-    [[nodiscard]] bool isRunning() const;
+    // Layer and panel (AbstractDialog.cpp)
     [[nodiscard]] QList<QWidget*> reachableFields() const;
     void coverParent();
     void centrePanel();
     void takeFocus();
+
+    // The run (AbstractDialog_run.cpp)
+    [[nodiscard]] MainWnd* livingWindow() const;
+    [[nodiscard]] bool isRunning() const;
     void finish(bool accepts);
     void leave();
+    [[nodiscard]] bool takesKeys() const;
 
     const QPointer<QObject> mainWindow;
     const std::shared_ptr<QEventLoop> loop; ///< shared with exec(), which may outlive the dialog

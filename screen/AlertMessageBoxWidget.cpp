@@ -1,6 +1,7 @@
 #include "screen/AlertMessageBoxWidget.h"
 
 #include "keys/pictures.h"
+#include "screen/dialog_panel.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -14,8 +15,6 @@ namespace {
 const QMargins innerMargins(0, 5, 8, 5); // with the widget's own: the same air on both sides
 constexpr int titleSpacing = 6;
 constexpr int pictureSpacing = 5;
-constexpr int buttonSpacing = 10;
-const QSize buttonSize(105, 23);
 
 QPixmap pictureOf(alert_type type)
 {
@@ -115,13 +114,10 @@ QBoxLayout* AlertMessageBoxWidget::messageRow()
 QBoxLayout* AlertMessageBoxWidget::buttonRow()
 {
     auto* row = new QHBoxLayout;
-    row->setSpacing(buttonSpacing);
+    row->setSpacing(dialog_panel::buttonSpacing);
     row->addStretch();
     const auto add = [&](QPushButton* button, const QString& name, void (AlertMessageBoxWidget::*clicked)()) {
-        button->setObjectName(name);
-        button->setFocusPolicy(Qt::NoFocus);
-        button->setAutoDefault(false);
-        button->setMinimumSize(buttonSize);
+        dialog_panel::dressButton(*button, name);
         connect(button, &QPushButton::clicked, this, clicked);
         row->addWidget(button);
     };

@@ -41,7 +41,6 @@ public:
     void setSceneDefault();
     void setSceneClean();
     void setSceneMIDIinOut();
-    void setSceneCredits();
     void setSceneLibrary();
     /// The setter of the current scene once more.
     void setScenePrevious();
@@ -59,6 +58,7 @@ public:
     [[nodiscard]] QString getOutPort(int row) const;
 
     // Credits (CenterScreen_credits.cpp)
+    void setSceneCredits();
     /// The lines of a file, wrapped; none if it cannot be read.
     [[nodiscard]] static QStringList parseCreditFile(const QString& file);
     void hideCreditText();
@@ -91,17 +91,19 @@ public:
     // What the user does with the library (CenterScreen_library_edit.cpp)
     /// The action of a library button.
     void carryOut(LibraryButton::Code code);
+    /// Adds the played scale. `field`, a scale_field, takes the focus.
+    void appendScale(int field);
+    /// Edits a scale, or adds it to a category if it stands in none.
+    void openEditSceneDlg(QString word, int field);
+
+    // Categories, and the places of scales in them (CenterScreen_library_places.cpp)
     void appendCategory();
     void renameCategory();
     void deleteCategory();
     void editCategory(); ///< renames it
-    /// Adds the played scale. `field` takes the focus: 1 title, 2 and 3 short names, 4 description.
-    void appendScale(int field);
     void copyScale();
     void moveScale();
     void deleteScale();
-    /// Edits a scale, or adds it to a category if it stands in none.
-    void openEditSceneDlg(QString word, int field);
 
     QListWidget* inPortList = nullptr;
     QListWidget* outPortList = nullptr;
@@ -147,11 +149,14 @@ private:
     void playScale(const QString& word);
 
     // What the user does with the library (CenterScreen_library_edit.cpp)
-    void editKey(bool inScales, int key);
-    [[nodiscard]] bool confirmDelete(const QString& name);
-    [[nodiscard]] QString askCategory(LibraryButton::Code at, const QString& word);
+    void editCategoryKey(int key);
+    void editScaleKey(int key);
     void addToLibrary(QString word, int field);
     void showStored(const QString& word);
+
+    // Categories, and the places of scales in them (CenterScreen_library_places.cpp)
+    [[nodiscard]] bool confirmDelete(const QString& name);
+    [[nodiscard]] QString askCategory(LibraryButton::Code at, const QString& word);
 
     QGraphicsScene* const scene;
     const Ui_SorvaneClass& form;

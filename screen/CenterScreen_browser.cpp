@@ -5,6 +5,7 @@
 
 #include "app/MainWnd.h"
 #include "headers/HeaderController.h"
+#include "headers/selector_access.h"
 #include "keys/ScaleKeyController.h"
 #include "library/scale_word.h"
 #include "logging/categories.h"
@@ -13,19 +14,11 @@
 #include "screen/LibraryView.h"
 #include "screen/ScaleListWidget.h"
 #include "screen/description_page.h"
+#include "screen/scale_field.h"
 
 #include <QTimer>
 
-namespace {
-
-constexpr int descriptionField = 4;
-
-ScaleKeyController& scaleSelector()
-{
-    return *static_cast<ScaleKeyController*>(mainWnd->scaleController);
-}
-
-} // namespace
+using selector_access::scaleSelector;
 
 bool CenterScreen::Shown::operator==(const Shown& other) const
 {
@@ -183,5 +176,5 @@ void CenterScreen::playScale(const QString& word)
 
 void CenterScreen::descrButtonClicked()
 {
-    openEditSceneDlg(describedWord, descriptionField);
+    openEditSceneDlg(describedWord, description_field);
 }

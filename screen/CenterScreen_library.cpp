@@ -2,7 +2,7 @@
 
 #include "screen/CenterScreen.h"
 
-#include "app/MainWnd.h"
+#include "headers/selector_access.h"
 #include "keys/ScaleKeyController.h"
 #include "keys/StageMenu.h"
 #include "screen/CategoryListWidget.h"
@@ -25,9 +25,8 @@ void CenterScreen::addLibraryView()
     connect(view->scales, &QListWidget::itemPressed, this, &CenterScreen::scaleListItemClicked);
     connect(view->scales, &QListWidget::itemDoubleClicked, this, &CenterScreen::scaleListItemDblClicked);
     connect(view->description, &DescriptionEditor::pressed, this, &CenterScreen::descrButtonClicked);
-    connect(view->categories, &AbstractListWidget::editKeyPressed, this,
-            [this](int key) { editKey(false, key); });
-    connect(view->scales, &AbstractListWidget::editKeyPressed, this, [this](int key) { editKey(true, key); });
+    connect(view->categories, &AbstractListWidget::editKeyPressed, this, &CenterScreen::editCategoryKey);
+    connect(view->scales, &AbstractListWidget::editKeyPressed, this, &CenterScreen::editScaleKey);
 }
 
 void CenterScreen::showLibraryView(bool show)
@@ -41,7 +40,7 @@ void CenterScreen::showLibraryView(bool show)
     view->button(LibraryButton::scale_label).setEnabled(show);
     view->mark->setVisible(show && !matches);
     if (show) {
-        playedWord = static_cast<ScaleKeyController*>(mainWnd->scaleController)->scaleModifier();
+        playedWord = selector_access::scaleSelector().scaleModifier();
         describedWord = playedWord;
         refreshBrowser();
     } else {

@@ -1,6 +1,7 @@
 #include "screen/ChangeDialog.h"
 
 #include "app/MainWnd.h"
+#include "screen/dialog_panel.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -10,9 +11,7 @@
 namespace {
 
 const QSize panelSize(428, 215);
-const QMargins panelMargins(33, 30, 33, 30);
-const QSize buttonSize(105, 23);
-constexpr int fieldHeight = 22, rowSpacing = 8, buttonSpacing = 10;
+constexpr int rowSpacing = 8;
 
 } // namespace
 
@@ -45,17 +44,12 @@ void ChangeDialog::initialize()
     setPanel(widgets->panel, QStringLiteral(":/Resources/Background/message_background.png"), panelSize);
     widgets->label->setWordWrap(true);
     widgets->edit->setObjectName(QStringLiteral("name"));
-    widgets->edit->setFixedHeight(fieldHeight);
+    widgets->edit->setFixedHeight(dialog_panel::fieldHeight);
     addField(widgets->edit);
     setFirstFocus(widgets->edit);
     widgets->edit->setFocus();
-    widgets->ok->setObjectName(QStringLiteral("okButton"));
-    widgets->cancel->setObjectName(QStringLiteral("cancelButton"));
-    for (QPushButton* button : {widgets->ok, widgets->cancel}) {
-        button->setFocusPolicy(Qt::NoFocus);
-        button->setAutoDefault(false);
-        button->setMinimumSize(buttonSize);
-    }
+    dialog_panel::dressButton(*widgets->ok, QStringLiteral("okButton"));
+    dialog_panel::dressButton(*widgets->cancel, QStringLiteral("cancelButton"));
     connect(widgets->ok, &QPushButton::clicked, this, &ChangeDialog::accept);
     connect(widgets->cancel, &QPushButton::clicked, this, &ChangeDialog::reject);
     layOut();
@@ -64,12 +58,12 @@ void ChangeDialog::initialize()
 void ChangeDialog::layOut()
 {
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(buttonSpacing);
+    buttons->setSpacing(dialog_panel::buttonSpacing);
     buttons->addStretch();
     buttons->addWidget(widgets->cancel);
     buttons->addWidget(widgets->ok);
     auto* column = new QVBoxLayout(widgets->panel);
-    column->setContentsMargins(panelMargins);
+    column->setContentsMargins(dialog_panel::margins);
     column->setSpacing(rowSpacing);
     column->addStretch();
     column->addWidget(widgets->label);

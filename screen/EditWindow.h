@@ -4,8 +4,8 @@
 
 class ScaleFields;
 
-/// Asks for the fields of a scale that the library holds. The number says which has the focus at first: 1 the
-/// title, 2 and 3 the short names, 4 the description; another one means the title.
+/// Asks for the fields of a scale that the library holds. `field`, a scale_field, has the focus at
+/// first; the title for another number.
 class EditWindow : public AbstractDialog
 {
     Q_OBJECT

@@ -2,6 +2,8 @@
 
 #include "app/MainWnd.h"
 #include "screen/CenterScreen.h"
+#include "screen/dialog_panel.h"
+#include "screen/scale_field.h"
 
 #include <QComboBox>
 #include <QFontMetrics>
@@ -16,13 +18,11 @@
 
 namespace {
 
-const QMargins panelMargins(33, 30, 33, 30);
-const QSize buttonSize(105, 23);
-constexpr int fieldHeight = 22, messageHeight = 24, abbrWidth = 70;
+constexpr int messageHeight = 24, abbrWidth = 70;
 constexpr int messageWidth = 354; // breaks its lines before the list of signs
 constexpr int textMargin = 2;     // as line edits have it
 constexpr int frame = 2;          // border and padding of a field, above and below
-constexpr int rowSpacing = 6, columnSpacing = 8, buttonSpacing = 10;
+constexpr int rowSpacing = 6, columnSpacing = 8;
 
 const QString goodStyle = QStringLiteral("QLineEdit { border-width: 0px; color: black; }");
 const QString badStyle = QStringLiteral("QLineEdit { border-width: 2px; border-color: red; color: red; "
@@ -69,10 +69,10 @@ void ScaleFields::dressFields()
         edit->setFixedWidth(abbrWidth);
     }
     for (QLineEdit* edit : {title, abbr1, abbr2})
-        edit->setFixedHeight(fieldHeight);
+        edit->setFixedHeight(dialog_panel::fieldHeight);
     if (category) {
         category->setObjectName(QStringLiteral("category"));
-        category->setFixedHeight(fieldHeight);
+        category->setFixedHeight(dialog_panel::fieldHeight);
         category->setStyleSheet(QStringLiteral("QComboBox { padding-left: 5px; }")); // as line edits have it
     }
     description->setObjectName(QStringLiteral("description"));
@@ -104,7 +104,7 @@ void ScaleFields::fitDescription()
 void ScaleFields::initialize()
 {
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(panelMargins);
+    column->setContentsMargins(dialog_panel::margins);
     column->setSpacing(rowSpacing);
     QFormLayout* rows = fieldRows();
     column->addLayout(rows, 1);
@@ -135,14 +135,11 @@ QFormLayout* ScaleFields::fieldRows()
 QBoxLayout* ScaleFields::buttonRow()
 {
     auto* row = new QHBoxLayout;
-    row->setSpacing(buttonSpacing);
+    row->setSpacing(dialog_panel::buttonSpacing);
     row->addStretch();
     const auto add = [&](const QString& text, const QString& name, void (ScaleFields::*clicked)()) {
         auto* button = new QPushButton(text, this);
-        button->setObjectName(name);
-        button->setFocusPolicy(Qt::NoFocus);
-        button->setAutoDefault(false);
-        button->setMinimumSize(buttonSize);
+        dialog_panel::dressButton(*button, name);
         connect(button, &QPushButton::clicked, this, clicked);
         row->addWidget(button);
     };
@@ -163,11 +160,11 @@ QList<QWidget*> ScaleFields::fields() const
 QWidget* ScaleFields::field(int number) const
 {
     switch (number) {
-    case 2:
+    case abbr1_field:
         return abbr1;
-    case 3:
+    case abbr2_field:
         return abbr2;
-    case 4:
+    case description_field:
         return description;
     default:
         return title;

@@ -34,7 +34,7 @@ public:
 
     /// In the order of Tab.
     [[nodiscard]] QList<QWidget*> fields() const;
-    /// 1 the title, 2 and 3 the short names, 4 the description; the title for another number.
+    /// By its scale_field; the title for another number.
     [[nodiscard]] QWidget* field(int number) const;
     /// The title says something and both short names are there.
     [[nodiscard]] bool isNamed() const;
