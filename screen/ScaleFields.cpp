@@ -256,11 +256,12 @@ void ScaleFields::follow(ShortName& changed, const ShortName& other, const QStri
         message->setText(noMessage);
 }
 
-// The cursor goes back to where it stood before what was typed.
+// The cursor goes back to where it stood before what was typed, or to the end of what that has replaced:
+// there the same text follows it as now.
 void ScaleFields::takeBack(ShortName& changed, const QString& text)
 {
-    const int added = text.size() - changed.lastGood.size();
-    const int cursor = changed.edit->cursorPosition() - qMax(0, added);
+    const int behind = text.size() - changed.edit->cursorPosition();
+    const int cursor = changed.lastGood.size() - behind;
     changed.edit->setText(changed.lastGood);
     changed.edit->setCursorPosition(qBound(0, cursor, changed.lastGood.size()));
 }

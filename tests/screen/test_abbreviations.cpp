@@ -234,10 +234,12 @@ void TestAbbreviations::cursorStaysWhereItWas()
             QCOMPARE(name->text(), QStringLiteral("abcd"));
             QCOMPARE(name->cursorPosition(), place);
         }
-        name->setSelection(0, 4); // less text than before, and still wrong
-        press(Qt::Key_Space);
-        QCOMPARE(name->text(), QStringLiteral("abcd"));
-        QVERIFY(name->cursorPosition() >= 0 && name->cursorPosition() <= 4);
+        for (int first = 0; first < 4; ++first) { // less text than before, and still wrong
+            name->setSelection(first, 4 - first);
+            press(Qt::Key_Space);
+            QCOMPARE(name->text(), QStringLiteral("abcd"));
+            QCOMPARE(name->cursorPosition(), 4);
+        }
     });
 }
 
