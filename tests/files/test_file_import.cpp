@@ -20,6 +20,7 @@ private slots:
     void scalesOfAWrongTypeEmptyTheLibrary_data();
     void scalesOfAWrongTypeEmptyTheLibrary();
     void playedScalesGoWithTheLibrary();
+    void userStaysInTheCategoryOfThatName();
 
     // Presets
     void presetsAloneChangeTheSelectorsWithThem();
@@ -193,6 +194,18 @@ void TestFileImport::playedScalesGoWithTheLibrary()
 }
 
 // The selectors show the active one, as behind a recall: the next one would store them in it.
+void TestFileImport::userStaysInTheCategoryOfThatName()
+{
+    const QJsonObject a = scaleObject("a", ionian, "1"), b = scaleObject("b", lydian, "2"),
+                      c = scaleObject("c", wholeTone, "3");
+    readRoot({{scalesKey, QJsonArray{b, c}}});
+    library().setCurrentCategory(QStringLiteral("c"));
+    readRoot({{scalesKey, QJsonArray{a, b, c}}});
+    QCOMPARE(library().currentCategory(), QStringLiteral("c"));
+    readRoot({{scalesKey, QJsonArray{a, b}}});
+    QCOMPARE(library().currentCategory(), QStringLiteral("a")); // it is gone
+}
+
 void TestFileImport::presetsAloneChangeTheSelectorsWithThem()
 {
     leaveTheStart();

@@ -1,6 +1,7 @@
 // Numbers as pictures of their digits.
 
 #include "HeaderFixture.h"
+#include "keys/pictures.h"
 #include "plain_image.h"
 
 class TestDigits : public HeaderFixture
@@ -12,6 +13,7 @@ private slots:
     void negativeNumbersCarryTheSign();
     void thirdDigitIsNotDrawn();
     void unknownDigitTypeHasNoGlyphs();
+    void degreesFromOneToTwelveHaveTheirDigits();
 };
 
 void TestDigits::oneGlyphUpToNineAndAPairFromTen()
@@ -33,7 +35,8 @@ void TestDigits::negativeNumbersCarryTheSign()
     QCOMPARE(minusFour.size(), QSize(16, 8));
     QCOMPARE(imageOf(minusFour).copy(3, 0, 5, 8),
              imageOf(window->getDigitalPix(MainWnd::digit_anchor_in, 4)));
-    QVERIFY(imageOf(minusFour).copy(0, 0, 3, 8) != QImage(imageOf(minusFour).copy(13, 0, 3, 8)));
+    const QPixmap sheet = pictures::load(QStringLiteral(":/Resources/Numb0.png")); // the sign comes first
+    QCOMPARE(imageOf(minusFour).copy(0, 0, 3, 8), imageOf(sheet).copy(0, 0, 3, 8));
 }
 
 void TestDigits::thirdDigitIsNotDrawn()
@@ -45,6 +48,15 @@ void TestDigits::thirdDigitIsNotDrawn()
 void TestDigits::unknownDigitTypeHasNoGlyphs()
 {
     QVERIFY(window->getDigitalPix(static_cast<MainWnd::digit_type>(4), 3).isNull());
+}
+
+void TestDigits::degreesFromOneToTwelveHaveTheirDigits()
+{
+    for (int degree = 1; degree <= 12; ++degree)
+        QCOMPARE(imageOf(window->degreeDigits(degree)),
+                 imageOf(window->getDigitalPix(MainWnd::digit_bar, degree)));
+    for (const int none : {-1, 0, 13})
+        QVERIFY(window->degreeDigits(none).isNull());
 }
 
 QTEST_MAIN(TestDigits)

@@ -171,7 +171,42 @@ QTimer& LibraryFixture::browserTimer() const
     return **std::find_if(timers.begin(), timers.end(), [](const QTimer* t) { return t->isSingleShot(); });
 }
 
+void LibraryFixture::openPlaying()
+{
+    openWindow();
+    show();
+    openLibrary();
+    play(ionian);
+    settle();
+}
+
 void LibraryFixture::settle() const
 {
     QTRY_VERIFY(!browserTimer().isActive());
+}
+
+QStringList LibraryFixture::storedNames(const QString& word) const
+{
+    scale_data record;
+    library().getScaleData(word, record, DatabaseLibrary::AnyRole);
+    return {record.abbr1, record.abbr2, record.title, record.libBody};
+}
+
+QStringList LibraryFixture::allWords() const
+{
+    QStringList lines;
+    for (const QString& name : library().categories())
+        lines << name + QLatin1Char(':') + QStringList(words(name)).join(',');
+    return lines;
+}
+
+QList<QStringList> LibraryFixture::wholeLibrary() const
+{
+    QList<QStringList> lines{QStringList(library().categories().toList())};
+    for (const QString& name : library().categories()) {
+        lines << QStringList(words(name));
+        for (const QString& word : words(name))
+            lines << storedNames(word);
+    }
+    return lines << QStringList(library().customScales());
 }

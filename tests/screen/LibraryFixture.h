@@ -21,6 +21,9 @@ private slots:
     }
 
 protected:
+    /// Shown and at rest, with the library open at the scale that is played.
+    void openPlaying();
+
     using Acts = std::function<void()>;
 
     // Dialogs and menus: the first that opens is answered and, if that leaves it open, closed
@@ -60,6 +63,12 @@ protected:
     QStringList titles(const QString& name) const;
     QString titleOf(const QString& word) const;
     void showCategory(int index) const;
+    /// A record's names and its description; all empty if there is none.
+    QStringList storedNames(const QString& word) const;
+    /// Every category with its words.
+    QStringList allWords() const;
+    /// The same record for record, with the words that are in none.
+    QList<QStringList> wholeLibrary() const;
     /// A library record in that category.
     void addWord(const QString& word, const QString& title, const QString& to) const;
     /// The one that lets notes pass before the browser follows.

@@ -27,14 +27,6 @@ protected:
         closeWindow();
     }
 
-    /// Every category with its words.
-    QStringList everything() const
-    {
-        QStringList lines;
-        for (const QString& name : library().categories())
-            lines << name + QLatin1Char(':') + QStringList(words(name)).join(',');
-        return lines;
-    }
     /// Presses on a row and moves until the drag is under way.
     void drag(int row) const
     {

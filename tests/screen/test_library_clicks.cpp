@@ -11,14 +11,7 @@ class TestLibraryClicks : public LibraryFixture
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        openWindow();
-        show();
-        openLibrary();
-        play(ionian);
-        settle();
-    }
+    void init() { openPlaying(); }
 
     // On a scale
     void clickSelectsAndShows_data() { addSwitch(); }

@@ -14,14 +14,7 @@ class TestLibraryKeys : public LibraryFixture
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        openWindow();
-        show();
-        openLibrary();
-        play(ionian);
-        settle();
-    }
+    void init() { openPlaying(); }
 
     void controlLTogglesTheLibrary();
     void controlLNeedsThePower();

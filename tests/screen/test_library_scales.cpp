@@ -54,22 +54,6 @@ private slots:
     void labelEditsThePlayedScale();
 
 private:
-    QStringList storedNames(const QString& word) const
-    {
-        scale_data record;
-        library().getScaleData(word, record, DatabaseLibrary::AnyRole);
-        return {record.abbr1, record.abbr2, record.title, record.libBody};
-    }
-    QList<QStringList> everything() const
-    {
-        QList<QStringList> lines{QStringList(library().categories().toList())};
-        for (const QString& name : library().categories()) {
-            lines << QStringList(words(name));
-            for (const QString& word : words(name))
-                lines << storedNames(word);
-        }
-        return lines << QStringList(library().customScales());
-    }
 };
 
 void TestLibraryScales::addWindowComesWithTheNamesOfTheRecord_data()
@@ -188,14 +172,14 @@ void TestLibraryScales::wordThatIsThereIsNotAddedAgain()
 void TestLibraryScales::cancelledAddChangesNothing()
 {
     play(unknownWord);
-    const auto before = everything();
+    const auto before = wholeLibrary();
     whenOpen<AddWindow>([](AddWindow& dialog) {
         typeInto(dialog, "title", QStringLiteral("Another"));
         clickButtonOf(dialog, false);
     });
     click(LibraryButton::add_scale);
     QCOMPARE(seen, 1);
-    QCOMPARE(everything(), before);
+    QCOMPARE(wholeLibrary(), before);
 }
 
 void TestLibraryScales::addTakesThePlayedScaleNotTheShownOne()
@@ -274,14 +258,14 @@ void TestLibraryScales::editedFieldsAreStored()
 
 void TestLibraryScales::cancelledEditChangesNothing()
 {
-    const auto before = everything();
+    const auto before = wholeLibrary();
     whenOpen<EditWindow>([](EditWindow& dialog) {
         typeInto(dialog, "title", QStringLiteral("Another"));
         clickButtonOf(dialog, false);
     });
     click(LibraryButton::edit_description);
     QCOMPARE(seen, 1);
-    QCOMPARE(everything(), before);
+    QCOMPARE(wholeLibrary(), before);
 }
 
 void TestLibraryScales::editOfAScaleInNoCategoryAddsIt()

@@ -15,14 +15,7 @@ class TestScaleLists : public LibraryFixture
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        openWindow();
-        show();
-        openLibrary();
-        play(ionian);
-        settle();
-    }
+    void init() { openPlaying(); }
 
     // Rows
     void listsDragByThemselves_data() { addLists(); }

@@ -63,12 +63,12 @@ void TestScaleListsDrag::beginsAtTheDragDistance()
 
 void TestScaleListsDrag::clickThatShakesDragsNothing()
 {
-    const QStringList before = everything();
+    const QStringList before = allWords();
     const QPoint from = placeOfRow(scaleList(), 2);
     press(from);
     move(from + QPoint(1, 1));
     release(from + QPoint(1, 1));
-    QCOMPARE(everything(), before);
+    QCOMPARE(allWords(), before);
     QCOMPARE(scaleList().currentRow(), 2);
     QCOMPARE(library().currentScaleIndex(category(0)), 2);
 }
@@ -203,13 +203,13 @@ void TestScaleListsDrag::refusedPlacesTakeNothing()
     QFETCH(QPoint, scenePlace);
     QFETCH(int, category);
     library().appendScaleToCategory(this->category(2), words(this->category(0)).at(3));
-    const QStringList before = everything();
+    const QStringList before = allWords();
     const QPoint place = category < 0 ? scenePlace + QPoint(21, 152) : placeOfRow(categoryList(), category);
     drag(3);
     move(place);
     QCOMPARE(scaleList().viewport()->cursor().shape(), Qt::ForbiddenCursor);
     QCOMPARE(whatOpens([&] { release(place); }), QString());
-    QCOMPARE(everything(), before);
+    QCOMPARE(allWords(), before);
     QVERIFY(isOver());
 }
 

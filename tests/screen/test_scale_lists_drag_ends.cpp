@@ -57,7 +57,7 @@ void TestScaleListsDragEnds::endsWithoutADrop_data()
 void TestScaleListsDragEnds::endsWithoutADrop()
 {
     QFETCH(QString, end);
-    const QStringList before = everything();
+    const QStringList before = allWords();
     const QPoint place = placeOfRow(categoryList(), 3);
     drag(2);
     move(place);
@@ -81,7 +81,7 @@ void TestScaleListsDragEnds::endsWithoutADrop()
     move(place + QPoint(3, 3));
     QVERIFY(isOver());
     release(place);
-    QCOMPARE(everything(), before);
+    QCOMPARE(allWords(), before);
     QVERIFY(isOver());
 }
 
@@ -114,7 +114,7 @@ void TestScaleListsDragEnds::lostReleaseEndsIt_data()
 void TestScaleListsDragEnds::lostReleaseEndsIt()
 {
     QFETCH(QString, where);
-    const QStringList before = everything();
+    const QStringList before = allWords();
     scaleList().dragStart(2, Qt::MoveAction);
     QVERIFY(scaleList().isDragging());
     QCOMPARE(QApplication::mouseButtons(), Qt::NoButton);
@@ -125,7 +125,7 @@ void TestScaleListsDragEnds::lostReleaseEndsIt()
     QEnterEvent enters(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
     QCoreApplication::sendEvent(target, where.startsWith(QLatin1String("enters")) ? &enters : &leaves);
     QVERIFY(isOver());
-    QCOMPARE(everything(), before);
+    QCOMPARE(allWords(), before);
 }
 
 void TestScaleListsDragEnds::scaleThatWentAwayIsNotDropped()
@@ -134,9 +134,9 @@ void TestScaleListsDragEnds::scaleThatWentAwayIsNotDropped()
     drag(3);
     move(place);
     library().removeScaleFromCategory(category(0), 0); // the rows behind move up
-    const QStringList before = everything();
+    const QStringList before = allWords();
     release(place);
-    QCOMPARE(everything(), before);
+    QCOMPARE(allWords(), before);
     QVERIFY(isOver());
 }
 
@@ -144,14 +144,14 @@ void TestScaleListsDragEnds::scaleThatWentAwayIsNotDropped()
 // the old one until the drop: that is the one that is reordered.
 void TestScaleListsDragEnds::dropAfterANoteStaysInTheCategoryThatShows()
 {
-    QStringList before = everything();
+    QStringList before = allWords();
     drag(4);
     play(wholeTone);
     QVERIFY(library().currentCagetoryIndex() != 0);
     const QPoint place = placeOfRow(scaleList(), 1) - QPoint(0, 4);
     move(place);
     release(place);
-    QStringList after = everything();
+    QStringList after = allWords();
     before.removeFirst();
     after.removeFirst();
     QCOMPARE(after, before); // no other category took it

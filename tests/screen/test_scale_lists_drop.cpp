@@ -72,7 +72,7 @@ private:
         const QString word = words(category(from)).value(index);
         return mimeOf(bytesOf(category(from), word, titleOf(word), index));
     }
-    QStringList everything() const
+    QStringList allWords() const
     {
         QStringList lines;
         for (const QString& name : library().categories())
@@ -81,9 +81,9 @@ private:
     }
     bool refuse(const QMimeData* mime, int index, int row)
     {
-        const QStringList before = everything();
+        const QStringList before = allWords();
         const bool taken = scaleList().dropData(index, mime) || categoryList().dropData(row, mime);
-        return !taken && !categoryList().takes(row, nullptr) && everything() == before;
+        return !taken && !categoryList().takes(row, nullptr) && allWords() == before;
     }
 };
 
@@ -132,10 +132,10 @@ void TestScaleListsDrop::dropWhereItWasDoesNothing()
 {
     QFETCH(int, from);
     QFETCH(int, before);
-    const QStringList whole = everything();
+    const QStringList whole = allWords();
     QSignalSpy moved(&scaleList(), &ScaleListWidget::itemMoved);
     QVERIFY(!scaleList().dropData(before, payload(0, from).get()));
-    QCOMPARE(everything(), whole);
+    QCOMPARE(allWords(), whole);
     QCOMPARE(moved.size(), 0);
 }
 
@@ -171,10 +171,10 @@ void TestScaleListsDrop::dropOfAWordThatIsThereIsRefused()
 {
     library().appendScaleToCategory(category(4), ionian);
     const auto mime = payload(4, 1);
-    const QStringList before = everything();
+    const QStringList before = allWords();
     QSignalSpy inserted(&scaleList(), &ScaleListWidget::itemInserted);
     QVERIFY(!scaleList().dropData(0, mime.get()));
-    QCOMPARE(everything(), before);
+    QCOMPARE(allWords(), before);
     QCOMPARE(inserted.size(), 0);
 }
 
@@ -236,9 +236,9 @@ void TestScaleListsDrop::dropOnTheSourceOrAHolderIsRefused()
     library().appendScaleToCategory(category(2), words(category(0)).at(3));
     for (const int row : {0, 2}) {
         QVERIFY(!categoryList().takes(row, mime.get()));
-        const QStringList before = everything();
+        const QStringList before = allWords();
         QVERIFY(!categoryList().dropData(row, mime.get()));
-        QCOMPARE(everything(), before);
+        QCOMPARE(allWords(), before);
     }
     QVERIFY(categoryList().takes(1, mime.get()));
     library().removeScaleFromCategory(category(0), 3); // even then
@@ -296,12 +296,12 @@ void TestScaleListsDrop::stalePayloadIsRefused()
     QFETCH(QString, word);
     QCOMPARE(words(this->category(0)).indexOf(ionian), 1);
     const auto mime = mimeOf(bytesOf(category, word, QStringLiteral("T"), index));
-    const QStringList before = everything();
+    const QStringList before = allWords();
     for (const int to : {0, 3, 7}) {
         QVERIFY(!scaleList().dropData(to, mime.get()));
         QVERIFY(!categoryList().dropData(to, mime.get()));
     }
-    QCOMPARE(everything(), before);
+    QCOMPARE(allWords(), before);
 }
 
 void TestScaleListsDrop::payloadCutAnywhereIsRefused()
