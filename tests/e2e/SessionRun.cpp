@@ -33,15 +33,6 @@ QStringList searchFor(const QString& title)
 
 } // namespace
 
-bool SessionRun::startService()
-{
-    if (!daemon.start())
-        why = QStringLiteral("NO PIPEWIRE DAEMON: ") + daemon.reason();
-    else if (!JackPlayer("probe").isOpen())
-        why = QStringLiteral("NO JACK INTERFACE on the private PipeWire daemon (is pw-jack there?)");
-    return why.isEmpty();
-}
-
 bool SessionRun::forget()
 {
     place = std::make_unique<QTemporaryDir>();

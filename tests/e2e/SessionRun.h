@@ -21,8 +21,8 @@ public:
     explicit SessionRun(const QString& path) : programPath(path) {}
 
     /// Once for all runs. False where such tests cannot run, for the reason given.
-    [[nodiscard]] bool startService();
-    [[nodiscard]] QString reason() const { return why; }
+    [[nodiscard]] bool startService() { return daemon.startForJack(); }
+    [[nodiscard]] QString reason() const { return daemon.reason(); }
     /// Forgets the session: a fresh folder for its file.
     [[nodiscard]] bool forget();
 
@@ -62,7 +62,7 @@ private:
     void launch(const QStringList& wrapper, const QStringList& arguments);
 
     const QString programPath;
-    QString why, errorText;
+    QString errorText;
     PipeWireDaemon daemon{1024};
     std::unique_ptr<QTemporaryDir> place;
     std::unique_ptr<ChildProcess> process;

@@ -6,7 +6,7 @@
 #include "e2e_library.h"
 
 #include "StagePlaces.h"
-#include "XServer.h"
+#include "in_real_window.h"
 
 #include <QScrollBar>
 
@@ -165,11 +165,5 @@ void EndToEndLibrary::libraryIsShutAndComesBack()
 
 int main(int argc, char** argv)
 {
-    qputenv("QTEST_FUNCTION_TIMEOUT", "100000"); // the watchdog
-    XServer server(RealWindow::screenSize());
-    if (!RealWindow::prepare(server))
-        return 1;
-    QApplication application(argc, argv);
-    EndToEndLibrary test;
-    return QTest::qExec(&test, argc, argv);
+    return runInRealWindow<EndToEndLibrary, QApplication>(argc, argv, "100000");
 }

@@ -4,9 +4,9 @@
 
 #include "RealWindow.h"
 #include "StagePlaces.h"
-#include "XServer.h"
 #include "app/Application.h"
 #include "headers/HeaderItem.h"
+#include "in_real_window.h"
 #include "keys/PowerItem.h"
 #include "keys/key_roles.h"
 #include "likeness.h"
@@ -291,13 +291,7 @@ void EndToEndRatios::slidingPointerHasTheScreensPixels()
 
 int main(int argc, char** argv)
 {
-    qputenv("QTEST_FUNCTION_TIMEOUT", "60000"); // milliseconds; a test that hangs is ended
-    XServer server(RealWindow::screenSize());
-    if (!RealWindow::prepare(server))
-        return 1;
-    Application application(argc, argv);
-    EndToEndRatios test;
-    return QTest::qExec(&test, argc, argv);
+    return runInRealWindow<EndToEndRatios, Application>(argc, argv);
 }
 
 #include "e2e_ratios.moc"

@@ -4,9 +4,9 @@
 
 #include "RealWindow.h"
 #include "SceneTable.h"
-#include "XServer.h"
 #include "app/vendor.h"
 #include "app/version.h"
+#include "in_real_window.h"
 #include "keys/StageMenu.h"
 #include "screen/AbstractDialog.h"
 #include "screen/AlertWidget.h"
@@ -313,13 +313,7 @@ void EndToEndScenePictures::gameIsPlayedOnItsNote()
 
 int main(int argc, char** argv)
 {
-    qputenv("QTEST_FUNCTION_TIMEOUT", "60000"); // milliseconds; a test that hangs is ended
-    XServer server(RealWindow::screenSize());
-    if (!RealWindow::prepare(server))
-        return 1;
-    QApplication application(argc, argv);
-    EndToEndScenePictures test;
-    return QTest::qExec(&test, argc, argv);
+    return runInRealWindow<EndToEndScenePictures, QApplication>(argc, argv);
 }
 
 #include "e2e_scene_pictures.moc"

@@ -4,7 +4,7 @@
 
 #include "RealWindow.h"
 #include "SceneTable.h"
-#include "XServer.h"
+#include "in_real_window.h"
 #include "screen/CategoryListWidget.h"
 #include "screen/CenterScreen.h"
 #include "screen/DescriptionEditor.h"
@@ -294,13 +294,7 @@ void EndToEndScenes::keyboardAloneWalksTheButtons()
 
 int main(int argc, char** argv)
 {
-    qputenv("QTEST_FUNCTION_TIMEOUT", "60000"); // milliseconds; a test that hangs is ended
-    XServer server(RealWindow::screenSize());
-    if (!RealWindow::prepare(server))
-        return 1;
-    QApplication application(argc, argv);
-    EndToEndScenes test;
-    return QTest::qExec(&test, argc, argv);
+    return runInRealWindow<EndToEndScenes, QApplication>(argc, argv);
 }
 
 #include "e2e_scenes.moc"

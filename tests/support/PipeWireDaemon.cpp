@@ -1,5 +1,7 @@
 #include "PipeWireDaemon.h"
 
+#include "JackPlayer.h"
+
 #include <QFile>
 #include <QLocalSocket>
 #include <QStandardPaths>
@@ -71,6 +73,18 @@ bool PipeWireDaemon::start()
     if (!answers)
         why = QStringLiteral("pipewire does not answer: ") + process.errorString();
     return answers;
+}
+
+bool PipeWireDaemon::startForJack()
+{
+    if (!start()) {
+        why.prepend(QStringLiteral("NO PIPEWIRE DAEMON: "));
+        return false;
+    }
+    if (JackPlayer("probe").isOpen())
+        return true;
+    why = QStringLiteral("NO JACK INTERFACE on the private PipeWire daemon (is pw-jack there?)");
+    return false;
 }
 
 void PipeWireDaemon::kill()

@@ -15,6 +15,9 @@ public:
 
     /// False, with reason(), where no daemon can be started.
     bool start();
+    /// Starts it and looks for a JACK interface on it. False, with reason(), which CTest takes for a skipped
+    /// test, where there is none.
+    bool startForJack();
     /// Ends it as a crash would.
     void kill();
     [[nodiscard]] QString reason() const { return why; }

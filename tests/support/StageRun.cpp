@@ -11,15 +11,6 @@ const QString virtualOut = QStringLiteral(":Sorvane MIDI Out");
 
 } // namespace
 
-bool StageRun::startService()
-{
-    if (!daemon.start())
-        why = QStringLiteral("NO PIPEWIRE DAEMON: ") + daemon.reason();
-    else if (!JackPlayer("probe").isOpen())
-        why = QStringLiteral("NO JACK INTERFACE on the private PipeWire daemon (is pw-jack there?)");
-    return why.isEmpty();
-}
-
 bool StageRun::start(const QStringList& arguments)
 {
     program = std::make_unique<ProgramUnderTest>(programPath);

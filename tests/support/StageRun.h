@@ -16,8 +16,8 @@ public:
     explicit StageRun(const QString& path) : programPath(path) {}
 
     /// Once for all runs. False where such tests cannot run, for the reason given.
-    [[nodiscard]] bool startService();
-    [[nodiscard]] QString reason() const { return why; }
+    [[nodiscard]] bool startService() { return daemon.startForJack(); }
+    [[nodiscard]] QString reason() const { return daemon.reason(); }
 
     [[nodiscard]] bool start(const QStringList& arguments);
     /// The program's exit status, or -1.
@@ -31,7 +31,6 @@ public:
 
 private:
     const QString programPath;
-    QString why;
     PipeWireDaemon daemon{2048}; // a note that a busy machine loses cannot be played again
     std::unique_ptr<ProgramUnderTest> program;
     std::unique_ptr<JackPlayer> player;
