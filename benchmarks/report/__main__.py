@@ -1,13 +1,15 @@
-"""report FOLDER DATE LOAD: one table of all that the benchmarks wrote into the folder."""
+"""report FOLDER DATE LOAD [DOCUMENT]: the tables of all that the benchmarks wrote into the folder, and into the document."""
 
 import json
 import pathlib
 import sys
 
+from document import filled
 from machine import lines
 from meanings import GROUPS, place_of, row_of
 from sources import of_google, of_samples
-from table import HEADINGS, TRIP_HEADINGS, markdown, measured_row, trip_aim, trip_heading, trip_rows
+from table import (COUNT_HEADINGS, HEADINGS, TRIP_HEADINGS, markdown, measured_row, trip_note, trip_heading,
+                   trip_rows)
 
 
 def read(folder):
@@ -25,8 +27,14 @@ def measurements(reports):
     return found
 
 
+def trips(reports):
+    found = [report for report in reports.values() if "played" in report]
+    for report in sorted(found, key=lambda trip: (trip.get("busy", 0), trip["period"])):
+        yield trip_heading(report), markdown(TRIP_HEADINGS, trip_rows(report)) + trip_note(report)
+
+
 def sections(reports):
-    """Pairs of a heading and a table, in the order of the groups."""
+    """Pairs of a name and a table, in the order of the groups."""
     ordered = sorted(measurements(reports), key=lambda measured: place_of(measured.key))
     found = [(measured, row_of(measured.key)) for measured in ordered]
     for group, title in {**GROUPS, "": "Others"}.items():
@@ -34,17 +42,19 @@ def sections(reports):
         if rows:
             yield title, markdown(HEADINGS, rows)
         if group == "trip":
-            trips = [report for report in reports.values() if "played" in report]
-            for report in sorted(trips, key=lambda trip: (trip.get("busy", 0), trip["period"])):
-                yield f"{title}: {trip_heading(report)}", markdown(TRIP_HEADINGS, trip_rows(report)) + trip_aim(report)
+            yield from trips(reports)
+        if group == "tests":
+            yield from ((title, markdown(COUNT_HEADINGS, report["counts"])) for report in reports.values() if "counts" in report)
 
 
-def main(folder, date, load):
+def main(folder, date, load, document=None):
     reports = read(pathlib.Path(folder))
     real_time = next((report["realTime"] for report in reports.values() if "realTime" in report), None)
-    print(markdown(("Machine", ""), lines(date, load, real_time)))
-    for title, table in sections(reports):
-        print(f"\n### {title}\n\n{table}")
+    tables = {"Machine": markdown(("Machine", ""), lines(date, load, real_time)), **dict(sections(reports))}
+    print("\n\n".join(f"### {title}\n\n{table}" for title, table in tables.items()))
+    if document:
+        page = pathlib.Path(document)
+        page.write_text(filled(page.read_text(encoding="utf-8"), tables), encoding="utf-8")
 
 
 if __name__ == "__main__":

@@ -11,6 +11,7 @@ GROUPS = {
     "files": "Files",
     "start": "Start and memory",
     "log": "Logging",
+    "tests": "Tests",
 }
 
 # key: program and benchmark; times are CPU time but where a benchmark's own name ends with real_time.

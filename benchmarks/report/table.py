@@ -5,6 +5,7 @@ from round_trip import above, counts, summary, times
 from statistics_of import deviation, median, percentile, readable_unit, three_digits
 
 HEADINGS = ("What", "Median", "Spread", "p95", "Unit", "Repeats", "What it means")
+COUNT_HEADINGS = ("What", "How many")
 TRIP_HEADINGS = ("Way", "p50", "p95", "p99", "Longest", "Chord p50", "Chord longest", "Flood p50", "Flood longest",
                  "Sent", "Lost", "Stray")
 
@@ -44,15 +45,18 @@ def trip_rows(report):
     return [trip_row(name, lanes[name]) for name in shown] + missing
 
 
-def trip_aim(report):
-    """What Sorvane costs over the least that a program on its library can do; nothing without both."""
-    periods = above(summary(report), "sorvane-headless", "rtmidi", report["period"] * 1000 / report["rate"])
+def trip_note(report):
+    """How to read the table, and what Sorvane costs over the least that a program on its library can do."""
+    period = report["period"] * 1000 / report["rate"]
+    busy = f", beside {report['busy']} busy threads" if report.get("busy") else ""
+    text = f"\n\nMilliseconds, at periods of {period:.2f}{busy}; counts of stream, chords, flood."
+    periods = above(summary(report), "sorvane-headless", "rtmidi", period)
     if periods is None or None in periods:
-        return ""
-    return f"\n\nSorvane's map above the pass-through, in periods: p50 {periods[0]:+.2f}, p99 {periods[1]:+.2f}."
+        return text
+    return text + f" Sorvane's map above the pass-through, in periods: p50 {periods[0]:+.2f}, p99 {periods[1]:+.2f}."
 
 
 def trip_heading(report):
-    busy = f", beside {report['busy']} busy threads" if report.get("busy") else ""
-    return (f"Periods of {report['period']} frames ({report['period'] * 1000 / report['rate']:.2f} ms at "
-            f"{report['rate']} Hz){busy}, milliseconds; counts of stream, chords, flood")
+    """Nothing that differs between machines: documents name their tables so."""
+    busy = ", beside busy threads" if report.get("busy") else ""
+    return f"Round trip side by side, periods of {report['period']} frames{busy}"

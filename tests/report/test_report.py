@@ -12,9 +12,11 @@ sys.path.insert(0, str(REPORT))
 sys.dont_write_bytecode = True
 
 # The folder stands on the path from here on.
+from count_tests import counts as counts_of_tests, program_of  # noqa: E402
+from document import filled  # noqa: E402
 from round_trip import above, counts, last_of_chords, match, summary, times  # noqa: E402
 from sources import Measured, of_google, of_samples  # noqa: E402
-from meanings import ROWS, row_of  # noqa: E402
+from meanings import GROUPS, ROWS, row_of  # noqa: E402
 import statistics_of  # noqa: E402
 import table  # noqa: E402
 
@@ -154,6 +156,49 @@ class Table(unittest.TestCase):
         self.assertIn("not installed", rows[1][0])
 
 
+class Document(unittest.TestCase):
+    text = "a\n<!-- figures: one -->\nold\nolder\n<!-- end of figures -->\nb\n<!-- figures: two -->\n<!-- end of figures -->\n"
+
+    def test_only_what_stands_between_the_marks_of_a_table_changes(self):
+        once = filled(self.text, {"one": "| 1 \\1 |"})
+        self.assertEqual(once, self.text.replace("old\nolder", "| 1 \\1 |"))
+        self.assertEqual(filled(once, {"one": "| 1 \\1 |"}), once)
+        self.assertEqual(filled(self.text, {}), self.text)
+
+    def test_an_empty_place_is_filled(self):
+        self.assertIn("b\n<!-- figures: two -->\nnew\n<!-- end", filled(self.text, {"two": "new"}))
+
+    def test_a_table_without_a_place_is_an_error(self):
+        self.assertRaises(ValueError, filled, self.text, {"three": "new"})
+
+    def test_the_page_of_figures_has_a_place_for_every_table(self):
+        page = (REPORT.parents[1] / "docs" / "quality.md").read_text(encoding="utf-8")
+        trips = [table.trip_heading({"period": period, "busy": busy}) for period, busy in ((128, 0), (256, 0), (256, 2))]
+        names = ["Machine", *trips, *(title for group, title in GROUPS.items() if group != "trip")]
+        for name in names:
+            self.assertIn(f"{name} -->\nfresh", filled(page, {name: "fresh"}))
+
+
+class Counts(unittest.TestCase):
+    @staticmethod
+    def of_ctest(*command, label=None):
+        properties = [{"name": "LABELS", "value": [label]}] if label else []
+        return {"properties": properties, **({"command": list(command)} if command else {})}
+
+    def test_a_program_is_found_behind_its_wrapper_and_a_script_is_none(self):
+        self.assertEqual(program_of(self.of_ctest("pw-jack", "-p", "256", "/b/e2e_jack", "-v2")), "/b/e2e_jack")
+        self.assertIsNone(program_of(self.of_ctest("python3", "test_report.py")))
+        self.assertIsNone(program_of(self.of_ctest()))
+
+    def test_a_program_that_runs_twice_has_its_functions_once(self):
+        tests = [self.of_ctest("/b/test_a"), self.of_ctest("/b/test_a", "more"), self.of_ctest("/b/e2e_b", label="e2e"), self.of_ctest()]
+        shown = dict(counts_of_tests(tests, lambda program: ["one()", "two()"] if program == "/b/test_a" else None))
+        self.assertEqual(list(shown.values()), [4, 1, 0, 0, 1, 2, 2])
+
+    def test_nothing_is_said_of_what_is_not_built_where_all_is(self):
+        self.assertEqual(len(counts_of_tests([self.of_ctest("/b/test_a")], lambda program: [])), 6)
+
+
 class Program(unittest.TestCase):
     def report(self, files):
         with tempfile.TemporaryDirectory() as folder:
@@ -166,11 +211,13 @@ class Program(unittest.TestCase):
         trip = {"period": 256, "rate": 48000, "realTime": False, "played": []}
         done = self.report({"keys-notes.json": json.dumps({"benchmarks": [run("notePair", 1, 1)]}),
                             "trip-256.json": json.dumps(trip),
+                            "tests.json": json.dumps({"counts": [["tests that ctest runs", 7]]}),
                             "other-log.json": json.dumps({"benchmarks": [run("unheardOf", 1, 1)]})})
         self.assertEqual(done.returncode, 0, done.stderr)
         headings = [line for line in done.stdout.split("\n") if line.startswith("### ")]
         self.assertEqual([heading.split(":")[0] for heading in headings],
-                         ["### Note road", "### Round trip side by side", "### Others"])
+                         ["### Machine", "### Note road", "### Round trip side by side, periods of 256 frames", "### Tests", "### Others"])
+        self.assertRegex(done.stdout, r"tests that ctest runs +\| 7 ")
         self.assertIn("2000-01-31", done.stdout)
         self.assertIn("other/unheardOf", done.stdout)
 
@@ -183,7 +230,7 @@ class Program(unittest.TestCase):
     def test_round_trips_stand_in_the_order_of_their_periods_and_busy_ones_last(self):
         trips = [{"period": period, "busy": busy, "rate": 48000, "played": []} for period, busy in ((64, 2), (256, 0), (128, 0))]
         shown = self.report({f"trip-{i}.json": json.dumps(trip) for i, trip in enumerate(trips)}).stdout
-        headings = [line for line in shown.split("\n") if line.startswith("### ")]
+        headings = [line for line in shown.split("\n") if line.startswith("### Round")]
         self.assertEqual([heading.split(" frames")[0].split()[-1] for heading in headings], ["128", "256", "64"])
         self.assertEqual(["busy" in heading for heading in headings], [False, False, True])
 

@@ -1,6 +1,7 @@
 // What a hand has begun in the library stays its own, whatever is played meanwhile.
 
 #include "LibraryFixture.h"
+#include "library/scale_word.h"
 #include "screen/AddWindow.h"
 #include "screen/EditWindow.h"
 
@@ -11,7 +12,7 @@
 
 namespace {
 
-const QString ionianWord = QStringLiteral("xoxoxxoxoxox");
+const QString ionian = ionianWord;
 
 } // namespace
 
@@ -87,7 +88,7 @@ void TestLibraryOvertaken::noteBehindTheEditDialogChangesNoOtherScale()
     QCOMPARE(seen, 1);
     scale_data edited, played;
     QVERIFY(library().getScaleData(word, edited, DatabaseLibrary::LibraryRole));
-    QVERIFY(library().getScaleData(ionianWord, played, DatabaseLibrary::LibraryRole));
+    QVERIFY(library().getScaleData(ionian, played, DatabaseLibrary::LibraryRole));
     QCOMPARE(edited.libBody, QStringLiteral("typed"));
     QCOMPARE(edited.title, title);
     QCOMPARE(played.title, QStringLiteral("Ionian"));
@@ -99,7 +100,7 @@ void TestLibraryOvertaken::noteBehindTheAddDialogAddsWhatWasPlayedThen()
     play(unknownWord);
     settle();
     whenOpen<AddWindow>([this](AddWindow& dialog) {
-        play(ionianWord);
+        play(ionian);
         note();
         dialog.setName(QStringLiteral("mine"));
         dialog.accept();
@@ -107,7 +108,7 @@ void TestLibraryOvertaken::noteBehindTheAddDialogAddsWhatWasPlayedThen()
     screen().carryOut(LibraryButton::add_scale);
     QCOMPARE(seen, 1);
     QCOMPARE(titleOf(unknownWord), QStringLiteral("mine"));
-    QCOMPARE(titleOf(ionianWord), QStringLiteral("Ionian"));
+    QCOMPARE(titleOf(ionian), QStringLiteral("Ionian"));
 }
 
 // The dialog shows "MAJO", which is what fits; the factory's "MAJOR" is not to be lost by it.
@@ -115,7 +116,7 @@ void TestLibraryOvertaken::addingAKnownScaleKeepsTheNamesThatNobodyTouched()
 {
     scale_data before;
     scale_data after;
-    QVERIFY(library().getScaleData(ionianWord, before, DatabaseLibrary::LibraryRole));
+    QVERIFY(library().getScaleData(ionian, before, DatabaseLibrary::LibraryRole));
     QVERIFY(!screen().canBeRightLibraryName(before.abbr1));
     whenOpen<AddWindow>([this](AddWindow& dialog) {
         dialog.setCurrentCategory(category(9));
@@ -124,10 +125,10 @@ void TestLibraryOvertaken::addingAKnownScaleKeepsTheNamesThatNobodyTouched()
     });
     screen().carryOut(LibraryButton::add_scale);
     QCOMPARE(seen, 1);
-    QVERIFY(library().getScaleData(ionianWord, after, DatabaseLibrary::LibraryRole));
+    QVERIFY(library().getScaleData(ionian, after, DatabaseLibrary::LibraryRole));
     QCOMPARE(after.abbr1, before.abbr1);
     QCOMPARE(after.abbr2, QStringLiteral("mine"));
-    QCOMPARE(words(category(9)), QList<QString>{ionianWord});
+    QCOMPARE(words(category(9)), QList<QString>{ionian});
 }
 
 void TestLibraryOvertaken::noteBetweenPressAndMoveEndsTheDragBeforeItBegins()
@@ -191,7 +192,7 @@ void TestLibraryOvertaken::returnInAMenuReachesNothingBelow()
     screen().carryOut(LibraryButton::copy_scale);
     QCOMPARE(seen, 1);
     QVERIFY(!scale().switchOn);
-    QCOMPARE(scale().scaleModifier(), ionianWord);
+    QCOMPARE(scale().scaleModifier(), ionian);
 }
 
 void TestLibraryOvertaken::noMenuWithoutAnotherCategory()
@@ -231,7 +232,7 @@ void TestLibraryOvertaken::otherButtonsDoubleClickPlaysNothing()
         QTest::mouseDClick(scaleList().viewport(), button, Qt::NoModifier,
                            scaleList().visualItemRect(scaleList().item(4)).center());
     QVERIFY(!scale().switchOn);
-    QCOMPARE(scale().scaleModifier(), ionianWord);
+    QCOMPARE(scale().scaleModifier(), ionian);
 }
 
 void TestLibraryOvertaken::libraryThatOpensAgainShowsWhatIsPlayed_data()
@@ -275,7 +276,7 @@ void TestLibraryOvertaken::wordThatIsNoScaleIsNotPlayed()
     const QString stored = record(firstActive).scaleData;
     showCategory(9);
     screen().scaleListItemClicked(scaleList().item(0));
-    QCOMPARE(scale().scaleModifier(), ionianWord);
+    QCOMPARE(scale().scaleModifier(), ionian);
     QCOMPARE(record(firstActive).scaleData, stored);
     QVERIFY(view().description->toPlainText().startsWith(QStringLiteral("from a file"))); // it is shown
 }

@@ -67,23 +67,25 @@ void NoteLedger::followSound(const Message& message)
         on[static_cast<std::size_t>(message.at(1))] = message.at(0) == noteOn;
 }
 
-void NoteLedger::close(const Message& message)
+qint64 NoteLedger::closeFirst(const Message& message)
 {
-    const Entry& entry = awaited.front();
+    const Entry entry = awaited.front();
     if (entry.key != -1 && message.at(0) == noteOn)
         pitchOfKey[entry.key] = message.at(1);
     awaited.pop_front();
+    if (isTracer(message))
+        surplus += std::exchange(doubtful, {});
+    return lastHeard = entry.sent;
 }
 
 qint64 NoteLedger::hear(const Message& message)
 {
+    if (deaf)
+        return -1;
     ++count.heard;
     followSound(message);
-    if (!awaited.empty() && answers(awaited.front(), message)) {
-        const qint64 sent = awaited.front().sent;
-        close(message);
-        return sent;
-    }
+    if (!awaited.empty() && answers(awaited.front(), message))
+        return closeFirst(message);
     if (!isOfHand(message))
         return closeLater(message);
     handPlayed[static_cast<std::size_t>(message.at(1))] = true;
@@ -97,19 +99,21 @@ qint64 NoteLedger::closeLater(const Message& message)
     const auto found = std::find_if(awaited.begin(), awaited.end(),
                                     [&](const Entry& entry) { return answers(entry, message); });
     if (found == awaited.end()) {
-        faults += QStringLiteral("%1 came, which nothing called for (%2 outstanding, first %3)")
-                      .arg(text(message))
-                      .arg(outstanding())
-                      .arg(awaited.empty() ? QString() : text(awaited.front().message));
+        doubtful += QStringLiteral("%1 came, which nothing called for (%2 outstanding, the first is %3)")
+                        .arg(text(message))
+                        .arg(outstanding())
+                        .arg(awaited.empty() ? QString() : text(awaited.front().message));
         return -1;
     }
-    faults += QStringLiteral("%1 lost, the first of them %2, before %3")
-                  .arg(found - awaited.begin())
-                  .arg(text(awaited.front().message), text(message));
-    const qint64 sent = found->sent;
+    const bool tracers =
+        std::any_of(awaited.begin(), found, [](const Entry& entry) { return isTracer(entry.message); });
+    losses.append({lastHeard, awaited.front().sent, std::prev(found)->sent, found->sent, tracers,
+                   std::exchange(doubtful, {}),
+                   QStringLiteral("%1 lost, the first of them %2, before %3")
+                       .arg(found - awaited.begin())
+                       .arg(text(awaited.front().message), text(message))});
     awaited.erase(awaited.begin(), found);
-    close(message);
-    return sent;
+    return closeFirst(message);
 }
 
 QList<int> NoteLedger::sounding() const
@@ -121,13 +125,19 @@ QList<int> NoteLedger::sounding() const
     return pitches;
 }
 
-QStringList NoteLedger::takeFaults()
+QList<NoteLedger::Loss> NoteLedger::takeLosses()
 {
-    return std::exchange(faults, {});
+    return std::exchange(losses, {});
+}
+
+QStringList NoteLedger::takeSurplus()
+{
+    return std::exchange(surplus, {});
 }
 
 void NoteLedger::forget()
 {
     awaited.clear();
+    doubtful.clear();
     on.reset();
 }

@@ -193,3 +193,9 @@ void Score::releaseAll()
     for (; !ahead.empty(); ahead.pop_front())
         perform(ahead.front());
 }
+
+void Score::forget()
+{
+    ahead.clear();
+    held.clear();
+}

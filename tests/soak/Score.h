@@ -29,6 +29,8 @@ public:
     void playNext();
     /// Ends what is begun.
     void releaseAll();
+    /// Drops what is begun, for one who ends it by other means.
+    void forget();
     /// Sends what the model follows, and expects its answer.
     void playByModel(const NoteLedger::Message& message);
 

@@ -14,6 +14,8 @@ namespace {
 const QString virtualIn = QStringLiteral(":Sorvane MIDI In"),
               virtualOut = QStringLiteral(":Sorvane MIDI Out");
 
+constexpr int tracerMs = 5; // one in every period
+
 double percentile(QVector<double> values, double share)
 {
     std::sort(values.begin(), values.end());
@@ -92,6 +94,12 @@ bool SoakRun::waitForRows()
 
 qint64 SoakRun::send(const NoteLedger::Message& message)
 {
+    if (!sinceTracer.isValid() || sinceTracer.elapsed() >= tracerMs) {
+        sinceTracer.start();
+        const NoteLedger::Message tracer{0xBF, 118, marker = (marker + 1) % 128};
+        ledger.expect(tracer, sentCount++);
+        player->send(tracer);
+    }
     player->send(message);
     return sentCount++;
 }
@@ -119,8 +127,41 @@ void SoakRun::listen()
         if (sent >= 0 && sent < sentFrames.size())
             loaded.append(double(event.frame - sentFrames.at(static_cast<int>(sent))));
     }
-    for (const QString& text : ledger.takeFaults())
-        fault(text);
+    for (const QString& text : ledger.takeSurplus())
+        spoil(text);
+    for (const NoteLedger::Loss& loss : ledger.takeLosses())
+        judge(loss);
+}
+
+// A busy machine's service leaves a client out of a period, and all that the period carried is gone, a tracer
+// always among it: the program never saw it. What the program itself loses does not begin and end where
+// periods do. Only what was mapped meanwhile may sound otherwise, if a recall was lost.
+void SoakRun::judge(const NoteLedger::Loss& loss)
+{
+    const auto frame = [this](qint64 sent) {
+        return sent >= 0 && sent < sentFrames.size() ? qint64(sentFrames.at(static_cast<int>(sent))) : -1;
+    };
+    const bool isWhole = frame(loss.before) != frame(loss.first) &&
+                         (frame(loss.last) != frame(loss.after) || !loss.surplus.isEmpty());
+    const bool leftOut = player->missedPeriods() != missedSeen;
+    missedSeen = player->missedPeriods();
+    if (!leftOut && !(loss.tracers && isWhole)) {
+        spoil(loss.text + QLatin1Char(' ') + loss.surplus.join(QStringLiteral(", ")));
+        return;
+    }
+    if (!spoilt)
+        std::printf("the service lost a period at %.1f s in %s: %s\n", seconds(), qPrintable(where),
+                    qPrintable(loss.text));
+    ++serviceLosses;
+    spoilt = true;
+}
+
+// What follows out of the first loss is not counted again.
+void SoakRun::spoil(const QString& what)
+{
+    if (!spoilt)
+        fault(what);
+    spoilt = true;
 }
 
 void SoakRun::fault(const QString& what)
@@ -143,6 +184,8 @@ bool SoakRun::finish()
     if (options.judgeMemory)
         for (const QString& text : grown)
             fault(text);
+    if (phasesSpoilt * 2 > phasesBegun)
+        fault(QStringLiteral("the machine is too busy to tell anything"));
     if (!options.csv.isEmpty() && !resources->writeCsv(options.csv))
         fault(QStringLiteral("cannot write ") + options.csv);
 
@@ -158,6 +201,8 @@ bool SoakRun::finish()
         "system exclusive messages, %d comings and goings of ports\n",
         sentCount, count.expected, count.heard, count.handOns, hand.done(), hand.failed(), sysex->sent(),
         churn.changes());
+    std::printf("%d gaps by the service, which spoilt %d of %d phases\n", serviceLosses, phasesSpoilt,
+                phasesBegun);
     std::printf("memory %s; %d faults in %.0f s, seed %u: %s\n",
                 !options.judgeMemory ? "not judged"
                 : grown.isEmpty()    ? "flat"

@@ -29,8 +29,8 @@ public:
         double seconds = 600, phaseSeconds = 5, sampleSeconds = 10;
         int rate = 600; ///< messages a second
         int period = 1024;
-        bool judgeMemory = true;
-        QString csv;
+        bool judgeMemory = true, hand = true, ports = true;
+        QString csv, only;
     };
     struct Phase
     {
@@ -61,7 +61,10 @@ private:
 
     void playPhase(const Phase& phase);
     void music(const Phase& phase);
+    void checkPhase(const Phase& phase);
     void fault(const QString& what);
+    void spoil(const QString& what);
+    void judge(const NoteLedger::Loss& loss);
 
     // Checkpoints
     void handsOff();
@@ -69,16 +72,18 @@ private:
     void checkNothingSounds();
     void walkTheKeys();
     void walkByFile();
+    void walkByAnswers(const QList<NoteLedger::Message>& answers);
     void measureLatency();
     void sampleWhenDue();
     [[nodiscard]] bool file(const char* shortcut, const QString& name);
     void goHome();
+    void recover();
     [[nodiscard]] bool waitForRows();
 
     const Options options;
     std::mt19937 numbers, handNumbers, portNumbers;
     QString why;
-    QElapsedTimer clock;
+    QElapsedTimer clock, sinceTracer;
     PipeWireDaemon daemon;
     XServer screen;
     PortChurn churn{portNumbers};
@@ -93,6 +98,8 @@ private:
     Score score;
     QString where = QStringLiteral("start");
     bool atHome = true;
+    bool spoilt = false; ///< program and model may no longer agree
+    int serviceLosses = 0, missedSeen = 0, phasesBegun = 0, phasesSpoilt = 0;
     int fileNumber = 0, marker = 0, faultCount = 0;
     qint64 sentCount = 0;
     double lastSample = -1e9;

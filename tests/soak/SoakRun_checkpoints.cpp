@@ -1,8 +1,7 @@
 // All hands off: what is held against what between the phases.
 
-#include "SoakRun.h"
-
 #include "AnchorModel.h"
+#include "SoakRun.h"
 #include "tunes.h"
 
 #include <QFile>
@@ -52,15 +51,21 @@ void SoakRun::handsOff()
     churn.settle();
 }
 
-// The second marker goes when the first is back: by then what the hand did last has been taken.
+// The second marker goes when the first is back: by then what the hand did last has been taken. One that the
+// service loses is sent again.
 void SoakRun::settle()
 {
+    constexpr int tries = 5, tryMs = 3000;
     for (int round = 0; round < 2; ++round) {
-        const NoteLedger::Message message{0xBF, 119, marker = (marker + 1) % 128};
-        ledger.expect(message, send(message));
-        if (turnUntil([this] { return ledger.outstanding() == 0; }, patienceMs))
+        bool isBack = false;
+        for (int i = 0; i < tries && !isBack; ++i) {
+            const NoteLedger::Message message{0xBF, 119, marker = (marker + 1) % 128};
+            ledger.expect(message, send(message)); // behind its tracer, if it has one
+            isBack = turnUntil([this] { return ledger.outstanding() == 0; }, tryMs);
+        }
+        if (isBack)
             continue;
-        fault(QStringLiteral("%1 messages never came").arg(ledger.outstanding()));
+        spoil(QStringLiteral("%1 messages never came").arg(ledger.outstanding()));
         ledger.forget();
     }
 }
@@ -68,9 +73,7 @@ void SoakRun::settle()
 void SoakRun::checkNothingSounds()
 {
     for (const int pitch : ledger.sounding())
-        fault(QStringLiteral("note %1 hangs").arg(pitch));
-    if (!ledger.sounding().isEmpty())
-        ledger.forget();
+        spoil(QStringLiteral("note %1 hangs").arg(pitch));
 }
 
 void SoakRun::walkTheKeys()
@@ -91,11 +94,44 @@ void SoakRun::walkByFile()
     const QJsonObject state =
         saved.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(saved.readAll()).object() : QJsonObject();
     saved.remove();
-    for (const NoteLedger::Message& answer : walkOf(state))
-        ledger.expect(answer, -1);
+    walkByAnswers(walkOf(state));
+}
+
+// In one go, answered as one.
+void SoakRun::walkByAnswers(const QList<NoteLedger::Message>& answers)
+{
+    qint64 number = -1;
     for (const NoteLedger::Message& message : tapWhiteKeys(21, 108))
-        send(message);
+        number = send(message);
+    for (const NoteLedger::Message& answer : answers)
+        ledger.expect(answer, number);
     settle();
+}
+
+// The service has lost what the program and the model should both have heard: all is ended, and the known
+// state is brought back.
+void SoakRun::recover()
+{
+    constexpr int tries = 12;
+    for (int i = 0; i < tries && program->isRunning(); ++i) {
+        ledger.setDeaf(true);
+        score.forget();
+        for (int key = 21; key <= 108; ++key) {
+            send({0x80, key, 0});
+            turn();
+        }
+        QElapsedTimer rest;
+        rest.start();
+        static_cast<void>(turnUntil([&] { return rest.elapsed() > 500; }, patienceMs));
+        ledger.setDeaf(false);
+        ledger.forget();
+        spoilt = false;
+        goHome();
+        if (!spoilt)
+            return;
+    }
+    fault(QStringLiteral("no way back to the known state"));
+    spoilt = false;
 }
 
 void SoakRun::goHome()

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <vector>
 
 namespace {
 
@@ -26,12 +28,15 @@ constexpr int mostAtOnce = 24; // a period carries some 160
 
 void SoakRun::play()
 {
-    std::array<SoakRun::Phase, phases.size()> order = phases;
+    std::vector<Phase> order;
+    std::copy_if(phases.begin(), phases.end(), std::back_inserter(order), [this](const Phase& phase) {
+        return options.only.isEmpty() || options.only == QLatin1String(phase.name);
+    });
     handsOff();
     atHome = file("ctrl+s", QStringLiteral("home"));
     if (!atHome)
         fault(QStringLiteral("the state was not saved"));
-    while (seconds() < options.seconds && program->isRunning()) {
+    while (!order.empty() && seconds() < options.seconds && program->isRunning()) {
         std::shuffle(order.begin(), order.end(), numbers);
         for (const Phase& phase : order)
             if (seconds() < options.seconds && program->isRunning())
@@ -43,28 +48,38 @@ void SoakRun::play()
 void SoakRun::playPhase(const Phase& phase)
 {
     where = QString::fromLatin1(phase.name);
-    ++phasesPlayed[where];
+    ++phasesBegun;
     if (phase.fromHome && !atHome)
         goHome();
-    if (model.presets.powerKey != 0 && model.presets.power != phase.power) {
-        score.playByModel({0x90, model.presets.powerKey, 100});
-        score.playByModel({0x80, model.presets.powerKey, 0});
-        atHome = false;
-    }
-    if (phase.style == Style::recalls || phase.leavesModel)
-        atHome = false;
-    music(phase);
+    if (model.presets.power != phase.power)
+        for (const int status : {0x90, 0x80})
+            score.playByModel({status, model.presets.powerKey, 100});
+    atHome = atHome && phase.style == Style::mapped;
+    if (!spoilt)
+        music(phase);
     handsOff();
     settle();
-    checkNothingSounds();
-    if (phase.leavesModel) {
-        walkByFile();
-        goHome();
+    if (!spoilt)
+        checkPhase(phase);
+    if (spoilt) {
+        ++phasesSpoilt;
+        recover();
     } else {
-        walkTheKeys();
+        ++phasesPlayed[where];
     }
-    measureLatency();
     sampleWhenDue();
+}
+
+void SoakRun::checkPhase(const Phase& phase)
+{
+    checkNothingSounds();
+    if (phase.leavesModel)
+        walkByFile();
+    else
+        walkTheKeys();
+    if (phase.leavesModel)
+        goHome();
+    measureLatency();
 }
 
 // The music keeps its tempo; where it was held up it catches up.
@@ -75,15 +90,16 @@ void SoakRun::music(const Phase& phase)
     time.start();
     const double lasts = options.phaseSeconds * 1000;
     qint64 played = 0;
-    while (double(time.elapsed()) < lasts && program->isRunning()) {
+    while (double(time.elapsed()) < lasts && program->isRunning() && !spoilt) {
         const qint64 due = time.elapsed() * options.rate / 1000;
         for (int now = 0; now < mostAtOnce && played < due; ++now, ++played)
             score.playNext();
         if (played % 97 == 0)
             sysex->send(8 + static_cast<int>(played % 300));
-        if (hand.isIdle())
+        if (options.hand && hand.isIdle())
             hand.add(gestures::any(phase.repertoire, handNumbers, PortChurn::rows));
-        churn.step();
+        if (options.ports)
+            churn.step();
         turn();
     }
     score.releaseAll();

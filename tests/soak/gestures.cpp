@@ -150,18 +150,21 @@ void chooseInMenu(Words& words)
     words.key("Return").rest("0.1").key(words.below(2) ? "Escape" : "Return").rest("0.05");
 }
 
-// The key for the ports shuts the library, so that the next one opens it.
+// The key for the ports shuts the library, so that the next one opens it. No category is clicked twice in a
+// row: a double click asks for its name, and while something is asked black keys recall nothing.
 void browse(Words& words, bool choose)
 {
     words.key("ctrl+m").key("ctrl+l").rest("0.1");
+    int row = 0;
     for (int i = 0; i < 5; ++i) {
+        row = (row + 1 + words.below(3)) % 4;
         for (int notches = words.below(6); notches > 0; --notches)
             words.click(words.below(2) ? categoryRow : scaleRow, 4 + words.below(2));
-        words.click(categoryRow + QPoint(0, rowHeight * words.below(4))).rest("0.1");
+        words.click(categoryRow + QPoint(0, rowHeight * row)).rest("0.1");
         if (choose)
             words.click(scaleRow + QPoint(0, rowHeight * words.below(4))).rest("0.1");
     }
-    words.key("ctrl+l");
+    words.rest("0.4").key("ctrl+l");
 }
 
 void tonic(Words& words)

@@ -44,6 +44,10 @@ int main(int argc, char** argv)
     parser.addOption({QStringLiteral("program"), QStringLiteral("What is soaked"), QStringLiteral("file"),
                       QStringLiteral(SORVANE_PROGRAM)});
     parser.addOption({QStringLiteral("csv"), QStringLiteral("Where the samples go"), QStringLiteral("file")});
+    parser.addOption({QStringLiteral("only"), QStringLiteral("One kind of phase alone, to find what grows"),
+                      QStringLiteral("name")});
+    parser.addOption({QStringLiteral("no-hand"), QStringLiteral("No gestures but those for files")});
+    parser.addOption({QStringLiteral("no-ports"), QStringLiteral("Other programs stay as they are")});
     parser.addOption({QStringLiteral("any-memory"), QStringLiteral("Do not judge the memory")});
     parser.process(application);
     const auto number = [&](const char* name) { return parser.value(QLatin1String(name)).toDouble(); };
@@ -59,6 +63,9 @@ int main(int argc, char** argv)
     wanted.rate = static_cast<int>(number("rate"));
     wanted.period = static_cast<int>(number("period"));
     wanted.judgeMemory = !parser.isSet(QStringLiteral("any-memory"));
+    wanted.hand = !parser.isSet(QStringLiteral("no-hand"));
+    wanted.ports = !parser.isSet(QStringLiteral("no-ports"));
+    wanted.only = parser.value(QStringLiteral("only"));
     wanted.csv = parser.value(QStringLiteral("csv"));
     std::printf("soak: %.0f seconds, %d messages a second, seed %u\n", wanted.seconds, wanted.rate,
                 wanted.seed);

@@ -69,6 +69,9 @@ int JackPlayer::onProcess(jack_nframes_t frames, void* self)
 void JackPlayer::process(jack_nframes_t frames)
 {
     const jack_nframes_t start = jack_last_frame_time(client);
+    if (nextStart != 0 && start != nextStart)
+        ++missed;
+    nextStart = start + frames;
     void* out = jack_port_get_buffer(output, frames);
     jack_midi_clear_buffer(out);
     jack_nframes_t offset = 0;

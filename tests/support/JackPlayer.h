@@ -50,6 +50,8 @@ public:
     /// surely taken all of its events. Waits for so many messages; surplus ones are returned too.
     [[nodiscard]] QList<Message> heardFromHand(int expected);
     [[nodiscard]] quint32 now() const;
+    /// The periods that the service left this client out of, with all that they carried to it.
+    [[nodiscard]] int missedPeriods() const { return missed; }
 
 private:
     struct Outgoing
@@ -73,4 +75,6 @@ private:
     jack_port_t* input = nullptr;
     Ring outgoing, incoming, sentFrames;
     int echoNumber = 0;
+    std::atomic<int> missed{0};
+    quint32 nextStart = 0; ///< of the period that must come next; 0: not known
 };
