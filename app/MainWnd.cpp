@@ -2,6 +2,7 @@
 
 #include "app/MainWnd.h"
 
+#include "app/KeyboardWalk.h"
 #include "app/MidiService.h"
 #include "app/connecter.h"
 #include "headers/HeaderController.h"
@@ -74,6 +75,7 @@ MainWnd::MainWnd() : newWindowShortcut(QKeySequence(QStringLiteral("Ctrl+N")), t
     setBackgroundSwitches(false);
     headerController->setHeadersStatus(false);
     powerItem->changeScaleByTonic();
+    keyboardWalk = new KeyboardWalk(*this);
     installFilters();
     createShortcuts();
     SettingsStore::loadAllSettings();

@@ -22,6 +22,7 @@
 class CenterScreen;
 class DiagramScene;
 class HeaderController;
+class KeyboardWalk;
 class KeyControllerBase;
 class PowerItem;
 class QListWidgetItem;
@@ -149,6 +150,7 @@ public:
     [[nodiscard]] const QPixmap& degreeDigits(int number) const;
 
     CenterScreen* centerScreen = nullptr;
+    KeyboardWalk* keyboardWalk = nullptr;
     DatabaseLibrary library;
     PowerItem* powerItem = nullptr;
     bool dialogOpen = false;
@@ -210,6 +212,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -2,6 +2,7 @@
 
 #include "app/MainWnd.h"
 
+#include "app/KeyboardWalk.h"
 #include "headers/DiagramScene.h"
 #include "keys/PowerItem.h"
 #include "keys/TonicScene.h"
@@ -180,6 +181,8 @@ void MainWnd::fillSceneOut()
 
 void MainWnd::endGestures()
 {
+    if (keyboardWalk)
+        keyboardWalk->letGo();
     for (const QGraphicsView* view : {ui.inKeyboardGraphicsView, ui.outKeyboardGraphicsView})
         static_cast<DiagramScene*>(view->scene())->loseHand();
     auto* centre = static_cast<TonicScene*>(ui.centerGraphicsView->scene());

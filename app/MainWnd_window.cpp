@@ -2,6 +2,7 @@
 
 #include "app/MainWnd.h"
 
+#include "app/KeyboardWalk.h"
 #include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
 #include "screen/AbstractListWidget.h"
@@ -89,6 +90,8 @@ bool MainWnd::filterKeyPress(QEvent* event)
     const auto* press = static_cast<QKeyEvent*>(event);
     const int key = press->key();
     const bool inDialog = dialogOpen;
+    if (key == Qt::Key_Tab || key == Qt::Key_Backtab)
+        keyboardWalk->wake();
     const bool special = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape;
     // A press comes by here several times: for the window, the widget, and each parent if it is ignored.
     const bool first = std::exchange(freshKey, false);
@@ -109,6 +112,11 @@ bool MainWnd::filterKeyPress(QEvent* event)
         return false;
     event->ignore();
     return true;
+}
+
+bool MainWnd::focusNextPrevChild(bool next)
+{
+    return keyboardWalk ? keyboardWalk->step(next) : QDialog::focusNextPrevChild(next);
 }
 
 void MainWnd::rememberPlaces()

@@ -43,6 +43,17 @@ void AnchorsGroup::refresh()
     }
 }
 
+void AnchorsGroup::slide(int whiteKeys, const QGraphicsItem& held)
+{
+    const int x = static_cast<int>(pos().x()) + whiteKeys * pitch_mapping::whiteKeyWidth;
+    setX(anchor_snap::nearest(x > 0 ? gridRight : gridLeft, x));
+    setX(anchor_snap::stop(held.scenePos().x(), held.x()).value_or(static_cast<int>(pos().x())));
+    powerItem->changeScaleByTonic();
+    refresh();
+    storePlace();
+    powerItem->remap();
+}
+
 // A drag that loses the pointer ends as if the hand had let go.
 bool AnchorsGroup::sceneEvent(QEvent* event)
 {

@@ -17,6 +17,8 @@ public:
     [[nodiscard]] QGraphicsItem* findAnchorByName(const QString& name) const;
     /// Dims the anchors that lie beyond the bar; they stay under the pointer.
     void refresh();
+    /// As a drag by whole white keys with that anchor in the hand, and its release.
+    void slide(int whiteKeys, const QGraphicsItem& held);
 
     bool isPressed = false;
     QList<int> gridRight, gridLeft; ///< the places of the group, in scene pixels, from 0 outwards

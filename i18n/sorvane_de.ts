@@ -13,6 +13,17 @@
     </message>
 </context>
 <context>
+    <name>AnchorControl</name>
+    <message>
+        <source>Anchor %1</source>
+        <translation>Anker %1</translation>
+    </message>
+    <message>
+        <source>Slides the scale along the white keys</source>
+        <translation>Verschiebt die Skala auf den weißen Tasten</translation>
+    </message>
+</context>
+<context>
     <name>CenterScreen</name>
     <message>
         <source>(no categories)</source>
@@ -199,6 +210,32 @@
     </message>
 </context>
 <context>
+    <name>FlagControl</name>
+    <message>
+        <source>Preset on %1</source>
+        <translation>Preset auf %1</translation>
+    </message>
+</context>
+<context>
+    <name>GameCellControl</name>
+    <message>
+        <source>Game: row %1, column %2</source>
+        <translation>Spiel: Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>cross</source>
+        <translation>Kreuz</translation>
+    </message>
+    <message>
+        <source>nought</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+</context>
+<context>
     <name>HeaderController</name>
     <message>
         <source>Copy Header</source>
@@ -299,6 +336,41 @@
     <message>
         <source>nothing</source>
         <translation>nichts</translation>
+    </message>
+</context>
+<context>
+    <name>KeyControl</name>
+    <message>
+        <source>%1 of the output</source>
+        <translation>%1 am Ausgang</translation>
+    </message>
+    <message>
+        <source>black key</source>
+        <translation>schwarze Taste</translation>
+    </message>
+    <message>
+        <source>white key</source>
+        <translation>weiße Taste</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>switches the power</source>
+        <translation>schaltet Power</translation>
+    </message>
+    <message>
+        <source>recalls its preset</source>
+        <translation>ruft ihr Preset ab</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>stumm</translation>
+    </message>
+    <message>
+        <source>plays %1</source>
+        <translation>spielt %1</translation>
     </message>
 </context>
 <context>
@@ -444,6 +516,17 @@
     </message>
 </context>
 <context>
+    <name>PowerControl</name>
+    <message>
+        <source>Power</source>
+        <translation>Power</translation>
+    </message>
+    <message>
+        <source>Over the black key %1</source>
+        <translation>Über der schwarzen Taste %1</translation>
+    </message>
+</context>
+<context>
     <name>ScaleFields</name>
     <message>
         <source>First short name</source>
@@ -488,6 +571,17 @@
     <message>
         <source>max 5-7 chars allowed(width-dependant), no SPACE, &quot;A-Z&quot;,&quot;a-z&quot; and special chars only &quot;*?()+/-#0123456789&quot;</source>
         <translation>höchstens 5-7 Zeichen (je nach Breite), kein Leerzeichen, nur „A-Z“, „a-z“ und die Sonderzeichen „*?()+/-#0123456789“</translation>
+    </message>
+</context>
+<context>
+    <name>SelectorControl</name>
+    <message>
+        <source>Tonic %1</source>
+        <translation>Grundton %1</translation>
+    </message>
+    <message>
+        <source>Step %1 of the scale, %2</source>
+        <translation>Schritt %1 der Skala, %2</translation>
     </message>
 </context>
 <context>
@@ -587,6 +681,17 @@
     <message>
         <source>@YouTube</source>
         <translation>@YouTube</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchControl</name>
+    <message>
+        <source>Preset sets the scale</source>
+        <translation>Preset setzt die Skala</translation>
+    </message>
+    <message>
+        <source>Preset sets the tonic</source>
+        <translation>Preset setzt den Grundton</translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,7 @@ public:
     /// Flips off and on. False, with no effect, for any other status.
     bool switchStatus(bool toHeader);
     [[nodiscard]] switch_status status() const { return currentStatus; }
+    [[nodiscard]] bool isOfScale() const { return type == scaleSwitch; }
 
 protected:
     /// Does nothing: the scene tells a click from a drag.

@@ -74,6 +74,12 @@ void TonicScene::click(TonicKeyItem* key)
         key->handleHiddenMouseMove();
 }
 
+void TonicScene::pressAndClick(TonicKeyItem* key)
+{
+    emit key->mousePressed(key);
+    click(key);
+}
+
 void TonicScene::endGesture()
 {
     if (pressedKey)

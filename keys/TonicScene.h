@@ -19,6 +19,8 @@ public:
 
     /// Ends a gesture whose release will not come; what it has changed stays.
     void endGesture();
+    /// What a click on a key does, for who has no pointer.
+    static void pressAndClick(TonicKeyItem* key);
 
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
@@ -30,7 +32,7 @@ protected:
 private:
     void beginGesture(const QGraphicsSceneMouseEvent* event);
     [[nodiscard]] bool isClick(const QPointF& releasePos) const;
-    void click(TonicKeyItem* key);
+    static void click(TonicKeyItem* key);
 
     bool mouseDown = false;
     TonicKeyItem* pressedKey = nullptr;

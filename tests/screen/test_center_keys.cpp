@@ -56,16 +56,15 @@ void TestCenterKeys::init()
 void TestCenterKeys::tabWalksOverTheSixButtons()
 {
     QStringList there, back;
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 7; ++i) {
         press(Qt::Key_Tab);
         there << focused();
     }
     const QStringList six{QStringLiteral("buttonMIDIinOut"), QStringLiteral("buttonCredits"),
                           QStringLiteral("buttonManual"),    QStringLiteral("buttonExport"),
                           QStringLiteral("buttonImport"),    QStringLiteral("buttonReset")};
-    QCOMPARE(there.mid(0, 6), six);
-    QCOMPARE(there.at(7), six.first()); // by way of the input keyboard
-    inView()->setFocus();
+    QCOMPARE(there.mid(1), six); // by way of the output keyboard
+    press(Qt::Key_Tab);
     for (int i = 0; i < 6; ++i) {
         press(Qt::Key_Backtab, Qt::ShiftModifier);
         back.prepend(focused());

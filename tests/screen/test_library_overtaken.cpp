@@ -1,7 +1,6 @@
 // What a hand has begun in the library stays its own, whatever is played meanwhile.
 
 #include "LibraryFixture.h"
-#include "library/scale_word.h"
 #include "screen/AddWindow.h"
 #include "screen/EditWindow.h"
 
@@ -9,12 +8,6 @@
 #include <QScrollBar>
 #include <QTextEdit>
 #include <QtTest>
-
-namespace {
-
-const QString ionian = ionianWord;
-
-} // namespace
 
 class TestLibraryOvertaken : public LibraryFixture
 {

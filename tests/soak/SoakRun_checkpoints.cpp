@@ -1,7 +1,8 @@
 // All hands off: what is held against what between the phases.
 
-#include "AnchorModel.h"
 #include "SoakRun.h"
+
+#include "AnchorModel.h"
 #include "tunes.h"
 
 #include <QFile>

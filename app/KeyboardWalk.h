@@ -1,0 +1,62 @@
+#pragma once
+
+#include "app/StageStops.h"
+
+#include <QObject>
+#include <QPointer>
+
+class FocusRing;
+class MainWnd;
+class QKeyEvent;
+
+/// The window by the computer's keyboard. Tab goes from stop to stop as the eye does; in a stop with controls
+/// the arrow keys go from one to the next and Return presses it, for as long as it is held. What has the
+/// focus shows a ring once the keyboard is used, and only then does Return mean anything.
+class KeyboardWalk : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit KeyboardWalk(MainWnd& mainWindow);
+
+    /// Tab was pressed somewhere: from now on the focus is seen.
+    void wake();
+    /// To the next stop that can be reached, or the one before. False if there is none.
+    bool step(bool next);
+    /// Ends what Return holds, and puts back what was taken.
+    void letGo();
+    /// The control that has the focus, or null.
+    [[nodiscard]] StageControl* current() const;
+    [[nodiscard]] const StageStops& places() const { return stops; }
+    /// What was taken and not yet dropped, or null.
+    [[nodiscard]] const StageControl* carried() const { return taken; }
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void follow();
+    void followFocus(const QWidget* now);
+    [[nodiscard]] int here() const;
+    void arriveAt(int stop, Qt::FocusReason reason);
+    [[nodiscard]] StageControl* arrival(const StageStop& stop) const;
+    void setCurrent(StageControl* control);
+
+    void specialKey(int key);
+    void release();
+    void drop(StageControl* at);
+    [[nodiscard]] bool takeKey(const QKeyEvent& event);
+    [[nodiscard]] bool command(const QKeyEvent& event);
+    [[nodiscard]] bool arrow(int key);
+    void moveInRow(int key);
+    void moveToRow(int step);
+    void openMenu();
+
+    MainWnd& window;
+    StageStops stops;
+    FocusRing* const ring;
+    int stop = -1;                         ///< where the focus is, -1 elsewhere
+    std::vector<StageControl*> remembered; ///< by stop
+    StageControl* held = nullptr;
+    StageControl* taken = nullptr;
+};
