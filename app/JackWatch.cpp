@@ -2,12 +2,17 @@
 
 #include "logging/categories.h"
 
+#include <QTimer>
+
 #include <jack/jack.h>
 
 namespace {
 
 // A ring holds 2,340 messages of three bytes.
 constexpr int safeBacklog = 2000;
+
+// Three of the longest periods.
+constexpr int doubtMs = 600;
 
 void logJackText(const char* text)
 {
@@ -44,9 +49,24 @@ int JackWatch::onCycle(jack_nframes_t, void* self)
 
 void JackWatch::onShutdown(void* self)
 {
-    auto* watch = static_cast<JackWatch*>(self);
-    if (watch->alive.exchange(false))
-        emit watch->stopped();
+    static_cast<JackWatch*>(self)->doubt();
+}
+
+// PipeWire's library cries for any error that the server tells, such as a port of another program that was
+// gone before the library had looked at it. Each cry is looked into: the true one may follow a false one.
+void JackWatch::doubt()
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this] { QTimer::singleShot(doubtMs, this, [this, before = cycles.load()] { conclude(before); }); },
+        Qt::QueuedConnection);
+}
+
+void JackWatch::conclude(unsigned cyclesBefore)
+{
+    const bool runs = cycles - cyclesBefore > 1; // one may have been under way
+    if (!runs && alive.exchange(false))
+        emit stopped();
 }
 
 bool JackWatch::mayWrite()

@@ -21,14 +21,16 @@ public:
     /// Counts one message a port. False if the server is gone, or if it has not run for so many messages that
     /// a ring buffer might be full.
     [[nodiscard]] bool mayWrite();
+    /// The library says that the server is gone: believed if no cycles come for a while. On any thread.
+    void doubt();
 
 signals:
-    /// Emitted on a thread of the JACK library.
     void stopped();
 
 private:
     static int onCycle(jack_nframes_t frames, void* self);
     static void onShutdown(void* self);
+    void conclude(unsigned cyclesBefore);
 
     jack_client_t* client = nullptr;
     std::atomic<bool> alive{false};

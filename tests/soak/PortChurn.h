@@ -20,10 +20,14 @@ public:
 
     /// The listed ones come. Before the program starts.
     void begin();
+    /// Guests come and go until the JACK library has all that it keeps for later ones.
+    void wearIn();
     /// Something changes, now and then.
     void step();
     /// The listed ones are there again.
     void settle();
+    /// The guests go: each has the program's library hold some files open.
+    void dismissGuests() { guests.clear(); }
     [[nodiscard]] int changes() const { return count; }
 
 private:

@@ -36,11 +36,10 @@ struct Series
     const char* unit;
 };
 
+// The proportional set is only told: it grows when other processes stop sharing pages.
 const Series series[] = {
     {"resident", [](const ResourceLog::Sample& s) { return s.resident; }, allowedKilobytes, allowedShare,
      "KiB"},
-    {"proportional", [](const ResourceLog::Sample& s) { return s.proportional; }, allowedKilobytes,
-     allowedShare, "KiB"},
     {"private dirty", [](const ResourceLog::Sample& s) { return s.privateDirty; }, allowedKilobytes,
      allowedShare, "KiB"},
     {"X server's dirty", [](const ResourceLog::Sample& s) { return s.serverDirty; }, allowedKilobytes,

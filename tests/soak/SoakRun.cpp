@@ -76,6 +76,8 @@ bool SoakRun::start()
     quint32 frame = 0;
     while (player->readSentFrame(frame)) {
     }
+    if (options.ports && options.judgeMemory)
+        churn.wearIn();
     resources = std::make_unique<ResourceLog>(program->pid(), screen.pid());
     return true;
 }
@@ -179,8 +181,7 @@ bool SoakRun::finish()
     const int status = program->stop();
     if (!ran || status != 0)
         fault(QStringLiteral("the program ended with %1: %2").arg(status).arg(errors.right(2000)));
-    const double warmUp = std::max(20.0, seconds() / 5);
-    const QStringList grown = resources->growth(warmUp);
+    const QStringList grown = resources->growth(warmUp());
     if (options.judgeMemory)
         for (const QString& text : grown)
             fault(text);

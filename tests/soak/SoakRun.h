@@ -61,6 +61,8 @@ private:
 
     void playPhase(const Phase& phase);
     void music(const Phase& phase);
+    [[nodiscard]] double warmUp() const;
+    [[nodiscard]] int rowsForHand() const;
     void checkPhase(const Phase& phase);
     void fault(const QString& what);
     void spoil(const QString& what);

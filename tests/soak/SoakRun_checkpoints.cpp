@@ -191,6 +191,8 @@ void SoakRun::sampleWhenDue()
 {
     if (seconds() - lastSample < options.sampleSeconds)
         return;
+    churn.dismissGuests();
+    settle(); // by then the program knows
     lastSample = seconds();
     resources->take(lastSample);
 }
