@@ -2,6 +2,7 @@
 
 #include "app/FocusRing.h"
 #include "app/MainWnd.h"
+#include "app/accessibility.h"
 #include "keys/StageControl.h"
 #include "screen/AbstractDialog.h"
 
@@ -34,11 +35,14 @@ KeyboardWalk::KeyboardWalk(MainWnd& mainWindow)
     for (QWidget* view :
          {window.ui.outKeyboardGraphicsView, window.ui.centerGraphicsView, window.ui.inKeyboardGraphicsView})
         view->installEventFilter(this);
+    tapEnd.setSingleShot(true);
+    connect(&tapEnd, &QTimer::timeout, this, &KeyboardWalk::release);
     connect(&window, &MainWnd::specialKeyPressed, this, &KeyboardWalk::specialKey);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
     connect(ring, &FocusRing::windowChanges, this, &KeyboardWalk::follow);
     connect(ring, &FocusRing::slept, this, &KeyboardWalk::letGo);
     connect(ring, &FocusRing::keyComes, this, [this](int key) {
+        keyCameTo = window.focusWidget();
         if (!isReturn(key))
             release(); // whatever it means, it finds no key down
     });
@@ -62,6 +66,11 @@ int KeyboardWalk::here() const
     return found != all.end() ? static_cast<int>(found - all.begin()) : -1;
 }
 
+const StageStop& KeyboardWalk::stopHere() const
+{
+    return stops.all()[static_cast<std::size_t>(here())];
+}
+
 bool KeyboardWalk::step(bool next)
 {
     const int count = static_cast<int>(stops.all().size());
@@ -81,9 +90,13 @@ void KeyboardWalk::arriveAt(int to, Qt::FocusReason reason)
 {
     letGo();
     stop = to;
-    stops.all()[static_cast<std::size_t>(to)].widget->setFocus(reason);
+    QWidget* widget = stops.all()[static_cast<std::size_t>(to)].widget;
+    const bool isThere = widget->hasFocus(); // another part of the same view
+    widget->setFocus(reason);
     wake();
     follow();
+    if (isThere)
+        tellFocus();
 }
 
 StageControl* KeyboardWalk::arrival(const StageStop& at) const
@@ -118,8 +131,11 @@ void KeyboardWalk::setCurrent(StageControl* control)
     const int at = here();
     if (at < 0 || !control)
         return;
+    const bool moves = control != current();
     remembered[static_cast<std::size_t>(at)] = control;
     follow();
+    if (moves)
+        tellFocus();
 }
 
 void KeyboardWalk::followFocus(const QWidget* now)
@@ -128,6 +144,8 @@ void KeyboardWalk::followFocus(const QWidget* now)
         return;
     stop = here();
     follow();
+    if (accessibility::isHeard()) // behind what Qt itself tells of the view
+        QMetaObject::invokeMethod(this, &KeyboardWalk::tellFocus, Qt::QueuedConnection);
 }
 
 void KeyboardWalk::follow()
@@ -174,6 +192,7 @@ void KeyboardWalk::specialKey(int key)
 {
     StageControl* control = current();
     if (!ring->isAwake() || !control || window.isOccupied() || !window.focusWidget()->hasFocus() ||
+        window.focusWidget() != keyCameTo || // a button that it pressed has given the keyboard back
         plain(QApplication::keyboardModifiers()) != Qt::NoModifier)
         return;
     if (!isReturn(key)) {
@@ -181,16 +200,19 @@ void KeyboardWalk::specialKey(int key)
     } else if (taken) {
         drop(control);
     } else {
+        const StageStop& at = stopHere();
         release();
         setCurrent(control); // it may be the first one only because it is lit
         held = control;      // before the press, in which the key may come up again
         control->press();
+        tellState(at, *control);
     }
     follow();
 }
 
 void KeyboardWalk::release()
 {
+    tapEnd.stop();
     if (StageControl* control = std::exchange(held, nullptr))
         control->release();
 }
@@ -232,7 +254,7 @@ bool KeyboardWalk::command(const QKeyEvent& event)
     if (!ring->isAwake())
         return false;
     if (menu) {
-        openMenu();
+        openMenuOf(stopHere(), *control);
         return true;
     }
     if (modifiers != Qt::ControlModifier || (event.key() != Qt::Key_X && event.key() != Qt::Key_V))
@@ -247,16 +269,6 @@ bool KeyboardWalk::command(const QKeyEvent& event)
     return true;
 }
 
-void KeyboardWalk::openMenu()
-{
-    StageControl* control = current();
-    if (!control->hasMenu())
-        return;
-    const StageStop& place = stops.all()[static_cast<std::size_t>(here())];
-    control->openMenu(window.mapToGlobal(stops.placeOf(place, control).center()));
-    follow();
-}
-
 // The first one only shows where the focus is.
 bool KeyboardWalk::arrow(int key)
 {
@@ -267,7 +279,7 @@ bool KeyboardWalk::arrow(int key)
     if (!ring->isAwake())
         wake();
     else if (sideways && current()->slides())
-        current()->slide(key == Qt::Key_Right ? 1 : -1);
+        slide(stopHere(), *current(), key == Qt::Key_Right ? 1 : -1);
     else if (along)
         moveInRow(key);
     else
@@ -279,14 +291,11 @@ bool KeyboardWalk::arrow(int key)
 void KeyboardWalk::moveInRow(int key)
 {
     StageControl* from = current();
-    const StageStop& place = stops.all()[static_cast<std::size_t>(here())];
-    const auto x = [&](const StageControl* control) { return stops.placeOf(place, control).center().x(); };
-    for (StageStop::Row row : place.rows) {
-        if (std::find(row.begin(), row.end(), from) == row.end())
+    const StageStop& place = stopHere();
+    for (const StageStop::Row& whole : place.rows) {
+        if (std::find(whole.begin(), whole.end(), from) == whole.end())
             continue;
-        const auto isGone = [&](const StageControl* each) { return !stops.isReachable(place, each); };
-        row.erase(std::remove_if(row.begin(), row.end(), isGone), row.end());
-        std::stable_sort(row.begin(), row.end(), [&](auto* a, auto* b) { return x(a) < x(b); });
+        const StageStop::Row row = stops.reachable(place, whole);
         const int last = static_cast<int>(row.size()) - 1;
         const int at = static_cast<int>(std::find(row.begin(), row.end(), from) - row.begin());
         const int to = key == Qt::Key_Home   ? 0
@@ -302,7 +311,7 @@ void KeyboardWalk::moveInRow(int key)
 void KeyboardWalk::moveToRow(int step)
 {
     StageControl* from = current();
-    const StageStop& place = stops.all()[static_cast<std::size_t>(here())];
+    const StageStop& place = stopHere();
     const int x = stops.placeOf(place, from).center().x();
     const auto distance = [&](const StageControl* control) {
         return std::abs(stops.placeOf(place, control).center().x() - x);

@@ -3,7 +3,7 @@
 #include "app/StageStops.h"
 
 #include <QObject>
-#include <QPointer>
+#include <QTimer>
 
 class FocusRing;
 class MainWnd;
@@ -31,6 +31,14 @@ public:
     /// What was taken and not yet dropped, or null.
     [[nodiscard]] const StageControl* carried() const { return taken; }
 
+    // For assistive technology (KeyboardWalk_told.cpp); what cannot be reached now, or lies behind a dialog
+    // or a menu, stays as it is
+    void goTo(const StageStop& at, StageControl& control);
+    /// A short press.
+    void tap(const StageStop& at, StageControl& control);
+    void slide(const StageStop& at, StageControl& control, int steps);
+    void openMenuOf(const StageStop& at, StageControl& control);
+
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
@@ -38,6 +46,8 @@ private:
     void follow();
     void followFocus(const QWidget* now);
     [[nodiscard]] int here() const;
+    /// Only with a current control.
+    [[nodiscard]] const StageStop& stopHere() const;
     void arriveAt(int stop, Qt::FocusReason reason);
     [[nodiscard]] StageControl* arrival(const StageStop& stop) const;
     void setCurrent(StageControl* control);
@@ -50,7 +60,10 @@ private:
     [[nodiscard]] bool arrow(int key);
     void moveInRow(int key);
     void moveToRow(int step);
-    void openMenu();
+
+    [[nodiscard]] bool answers(const StageStop& at, const StageControl& control) const;
+    void tellFocus() const;
+    static void tellState(const StageStop& at, const StageControl& control);
 
     MainWnd& window;
     StageStops stops;
@@ -59,4 +72,6 @@ private:
     std::vector<StageControl*> remembered; ///< by stop
     StageControl* held = nullptr;
     StageControl* taken = nullptr;
+    const QWidget* keyCameTo = nullptr; ///< what had the focus then; only compared
+    QTimer tapEnd;
 };

@@ -4,6 +4,7 @@
 
 #include "app/KeyboardWalk.h"
 #include "app/MidiService.h"
+#include "app/accessibility.h"
 #include "app/connecter.h"
 #include "headers/HeaderController.h"
 #include "keys/PowerItem.h"
@@ -45,6 +46,7 @@ void dressToolTips()
 MainWnd::MainWnd() : newWindowShortcut(QKeySequence(QStringLiteral("Ctrl+N")), this)
 {
     mainWnd = this;
+    accessibility::install();
     ui.setupUi(this);
     setUpWindow();
     createPowerItem();

@@ -187,6 +187,16 @@ bool StageStops::isReachable(const StageStop& stop, const StageControl* control)
     return control && control->isReachable() && window.rect().contains(placeOf(stop, control).center());
 }
 
+// Items move: a flag changes places with the power button, and the anchors slide.
+StageStop::Row StageStops::reachable(const StageStop& stop, StageStop::Row row) const
+{
+    const auto isGone = [&](const StageControl* each) { return !isReachable(stop, each); };
+    row.erase(std::remove_if(row.begin(), row.end(), isGone), row.end());
+    const auto x = [&](const StageControl* control) { return placeOf(stop, control).center().x(); };
+    std::stable_sort(row.begin(), row.end(), [&](auto* a, auto* b) { return x(a) < x(b); });
+    return row;
+}
+
 QRect StageStops::placeOf(const StageStop& stop, const StageControl* control) const
 {
     if (!control) {

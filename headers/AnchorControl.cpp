@@ -41,6 +41,16 @@ int AnchorControl::value() const
     return static_cast<int>(group.x()) / pitch_mapping::whiteKeyWidth;
 }
 
+int AnchorControl::lowest() const
+{
+    return static_cast<int>(anchor_snap::barLeft - anchor.x()) / pitch_mapping::whiteKeyWidth;
+}
+
+int AnchorControl::highest() const
+{
+    return static_cast<int>(anchor_snap::barRight - anchor.x()) / pitch_mapping::whiteKeyWidth;
+}
+
 void AnchorControl::slide(int steps)
 {
     group.slide(steps, anchor);

@@ -23,6 +23,8 @@ public:
     void press() override {}
     [[nodiscard]] bool slides() const override { return true; }
     [[nodiscard]] int value() const override;
+    [[nodiscard]] int lowest() const override;
+    [[nodiscard]] int highest() const override;
     void slide(int steps) override;
 
 private:

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>AddWindow</name>
+    <message>
+        <source>New scale</source>
+        <translation>Neue Skala</translation>
+    </message>
+</context>
+<context>
     <name>AlertMessageBoxWidget</name>
     <message>
         <source>Ok</source>
@@ -207,6 +214,13 @@
     <message>
         <source>--midi-api takes alsa or jack, not &quot;%1&quot;.</source>
         <translation>--midi-api nimmt alsa oder jack, nicht „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>EditWindow</name>
+    <message>
+        <source>Names and description of the scale</source>
+        <translation>Namen und Beschreibung der Skala</translation>
     </message>
 </context>
 <context>

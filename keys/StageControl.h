@@ -38,6 +38,8 @@ public:
     // A slider's; `step` is one white key to the right
     [[nodiscard]] virtual bool slides() const { return false; }
     [[nodiscard]] virtual int value() const { return 0; }
+    [[nodiscard]] virtual int lowest() const { return 0; }
+    [[nodiscard]] virtual int highest() const { return 0; }
     /// Stops at the ends.
     virtual void slide(int /*steps*/) {}
 

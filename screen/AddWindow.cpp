@@ -9,6 +9,7 @@
 AddWindow::AddWindow(int field, QWidget* parent)
     : AbstractDialog(parent), form(new ScaleFields(ScaleFields::Asks::withCategory, this))
 {
+    setAccessibleName(tr("New scale"));
     setPanel(form, QStringLiteral(":/Resources/Background/addWindow_background.png"), QSize(428, 330));
     for (QWidget* widget : form->fields())
         addField(widget);

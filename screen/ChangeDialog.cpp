@@ -85,6 +85,7 @@ QString ChangeDialog::text() const
 void ChangeDialog::setLabel(const QString& label)
 {
     widgets->label->setText(label);
+    widgets->edit->setAccessibleName(label);
 }
 
 QString ChangeDialog::label() const

@@ -8,6 +8,7 @@
 EditWindow::EditWindow(int field, QWidget* parent)
     : AbstractDialog(parent), form(new ScaleFields(ScaleFields::Asks::withoutCategory, this))
 {
+    setAccessibleName(tr("Names and description of the scale"));
     setPanel(form, QStringLiteral(":/Resources/Background/editionWindow_background.png"), QSize(428, 296));
     for (QWidget* widget : form->fields())
         addField(widget);

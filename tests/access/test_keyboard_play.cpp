@@ -17,6 +17,7 @@ private slots:
     void modifiedReturnPressesNothing();
     void spaceAndControlArrowsKeepTheirMeaning();
     void outputKeysPlayThemselves();
+    void returnOnAButtonPlaysNothing();
 
 private:
     using Messages = QList<QList<int>>;
@@ -156,6 +157,19 @@ void TestKeyboardPlay::outputKeysPlayThemselves()
     setTonic("D");
     QVERIFY(tabTo(QStringLiteral("C4 of the output")));
     heard();
+    type(Qt::Key_Return);
+    QCOMPARE(heard(), on(60) + off(60));
+}
+
+// The button gives the keyboard to the keys of the input while Return is still on its way.
+void TestKeyboardPlay::returnOnAButtonPlaysNothing()
+{
+    QVERIFY(tabTo(QStringLiteral("buttonCredits")));
+    heard();
+    type(Qt::Key_Return);
+    QCOMPARE(screen().currentScene, int(CenterScreen::scene_credits));
+    QVERIFY(window->ui.inKeyboardGraphicsView->hasFocus());
+    QCOMPARE(heard(), Messages());
     type(Qt::Key_Return);
     QCOMPARE(heard(), on(60) + off(60));
 }
