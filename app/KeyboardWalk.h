@@ -48,8 +48,8 @@ private:
     [[nodiscard]] int here() const;
     /// Only with a current control.
     [[nodiscard]] const StageStop& stopHere() const;
-    void arriveAt(int stop, Qt::FocusReason reason);
-    [[nodiscard]] StageControl* arrival(const StageStop& stop) const;
+    void arriveAt(int to, Qt::FocusReason reason);
+    [[nodiscard]] StageControl* arrival(const StageStop& at) const;
     void setCurrent(StageControl* control);
 
     void specialKey(int key);

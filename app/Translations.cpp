@@ -18,7 +18,7 @@ QString fileOf(const QString& language)
 QString firstSpoken(const QStringList& languages)
 {
     for (const QString& language : languages) {
-        const QString code = language.section(QLatin1Char('-'), 0, 0);
+        QString code = language.section(QLatin1Char('-'), 0, 0);
         if (code == english || QFile::exists(fileOf(code)))
             return code;
     }

@@ -14,7 +14,7 @@ class GameCellControl : public StageControl
 
 public:
     /// The proxy must hold the game.
-    GameCellControl(QGraphicsProxyWidget& proxy, int cell);
+    GameCellControl(QGraphicsProxyWidget& proxy, int number);
 
     [[nodiscard]] QString name() const override;
     [[nodiscard]] QString description() const override;
