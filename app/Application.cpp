@@ -48,15 +48,25 @@ QPoint Application::shownAt(QPointF place, qreal ratio)
     return {shownAlong(place.x(), ratio), shownAlong(place.y(), ratio)};
 }
 
-// What comes from the screen comes to a window first. Qt would round the place on its way to a widget: half
-// of an edge's pixels would belong to the neighbour.
+// What comes from the screen and the keyboard comes to a window first.
 bool Application::deliver(QObject* receiver, QEvent* event)
 {
-    if (!receiver->isWindowType() || !isMouse(event->type()))
+    if (!receiver->isWindowType())
         return QApplication::notify(receiver, event);
-    SeenMouseEvent seen(*static_cast<QMouseEvent*>(event), *static_cast<QWindow*>(receiver));
-    const bool delivered = QApplication::notify(receiver, &seen);
-    event->setAccepted(seen.isAccepted());
+    auto& window = *static_cast<QWindow*>(receiver);
+    if (isMouse(event->type()))
+        return deliverMouse(window, *static_cast<QMouseEvent*>(event));
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease)
+        return repeats.deliver(window, *static_cast<QKeyEvent*>(event));
+    return QApplication::notify(receiver, event);
+}
+
+// Qt would round the place on its way to a widget: half of an edge's pixels would belong to the neighbour.
+bool Application::deliverMouse(QWindow& window, QMouseEvent& event)
+{
+    SeenMouseEvent seen(event, window);
+    const bool delivered = QApplication::notify(&window, &seen);
+    event.setAccepted(seen.isAccepted());
     return delivered;
 }
 

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "app/KeyRepeats.h"
+
 #include <QApplication>
 
 /// The application object. An error that a port raises where nobody waits for one ends that event, not the
-/// program. On a dense screen the pointer means what is seen under it, to the pixel.
+/// program. On a dense screen the pointer means what is seen under it, to the pixel. A key that is held is
+/// told from one that is pressed over and over.
 class Application : public QApplication
 {
     Q_OBJECT
@@ -21,4 +24,8 @@ public:
 
 private:
     bool deliver(QObject* receiver, QEvent* event);
+    bool deliverMouse(QWindow& window, QMouseEvent& event);
+
+    KeyRepeats repeats{
+        [this](QObject* receiver, QEvent* event) { return QApplication::notify(receiver, event); }};
 };
