@@ -93,7 +93,6 @@ void KeyboardWalk::arriveAt(int to, Qt::FocusReason reason)
     QWidget* widget = stops.all()[static_cast<std::size_t>(to)].widget;
     const bool isThere = widget->hasFocus(); // another part of the same view
     widget->setFocus(reason);
-    wake();
     follow();
     if (isThere)
         tellFocus();

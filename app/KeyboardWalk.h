@@ -21,7 +21,8 @@ public:
 
     /// Tab was pressed somewhere: from now on the focus is seen.
     void wake();
-    /// To the next stop that can be reached, or the one before. False if there is none.
+    /// To the next stop that can be reached, or the one before. False if there is none. It wakes nothing: Qt
+    /// steps too, away from what is hidden.
     bool step(bool next);
     /// Ends what Return holds, and puts back what was taken.
     void letGo();

@@ -34,6 +34,7 @@ void KeyboardWalk::goTo(const StageStop& at, StageControl& control)
         return;
     const auto index = &at - stops.all().data();
     remembered[static_cast<std::size_t>(index)] = &control;
+    wake();
     arriveAt(static_cast<int>(index), Qt::OtherFocusReason);
 }
 

@@ -23,6 +23,7 @@
 #include <QGraphicsProxyWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -188,13 +189,18 @@ bool StageStops::isReachable(const StageStop& stop, const StageControl* control)
 }
 
 // Items move: a flag changes places with the power button, and the anchors slide.
-StageStop::Row StageStops::reachable(const StageStop& stop, StageStop::Row row) const
+StageStop::Row StageStops::reachable(const StageStop& stop, const StageStop::Row& row) const
 {
-    const auto isGone = [&](const StageControl* each) { return !isReachable(stop, each); };
-    row.erase(std::remove_if(row.begin(), row.end(), isGone), row.end());
-    const auto x = [&](const StageControl* control) { return placeOf(stop, control).center().x(); };
-    std::stable_sort(row.begin(), row.end(), [&](auto* a, auto* b) { return x(a) < x(b); });
-    return row;
+    std::vector<std::pair<int, StageControl*>> found;
+    for (StageControl* control : row)
+        if (isReachable(stop, control))
+            found.emplace_back(placeOf(stop, control).center().x(), control);
+    std::stable_sort(found.begin(), found.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    StageStop::Row sorted;
+    for (const auto& each : found)
+        sorted.push_back(each.second);
+    return sorted;
 }
 
 QRect StageStops::placeOf(const StageStop& stop, const StageControl* control) const

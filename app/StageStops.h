@@ -35,7 +35,7 @@ public:
     [[nodiscard]] bool isReachable(const StageStop& stop) const;
     [[nodiscard]] bool isReachable(const StageStop& stop, const StageControl* control) const;
     /// What can be reached of a row of the stop, from left to right.
-    [[nodiscard]] StageStop::Row reachable(const StageStop& stop, StageStop::Row row) const;
+    [[nodiscard]] StageStop::Row reachable(const StageStop& stop, const StageStop::Row& row) const;
     /// Where it is seen, in the window.
     [[nodiscard]] QRect placeOf(const StageStop& stop, const StageControl* control) const;
 

@@ -4,6 +4,7 @@
 #include "app/ViewAccessible.h"
 #include "app/WindowAccessible.h"
 #include "screen/AbstractDialog.h"
+#include "screen/TicTacToe.h"
 
 #include <QGraphicsView>
 #include <QLabel>
@@ -18,7 +19,7 @@ public:
 
     [[nodiscard]] QString text(QAccessible::Text which) const override
     {
-        const QString own = QAccessibleWidget::text(which);
+        QString own = QAccessibleWidget::text(which);
         if (which != QAccessible::Name || !own.isEmpty())
             return own;
         const QString description = QAccessibleWidget::text(QAccessible::Description);
@@ -45,6 +46,20 @@ Listeners& listeners()
     return all;
 }
 
+/// Held by a view that tells its parts: not to be met a second time.
+class EmbeddedAccessible : public QAccessibleWidget
+{
+public:
+    explicit EmbeddedAccessible(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
+
+    [[nodiscard]] QAccessible::State state() const override
+    {
+        QAccessible::State own = QAccessibleWidget::state();
+        own.invisible = true;
+        return own;
+    }
+};
+
 // Qt asks for each class that the object has, the most special one first.
 QAccessibleInterface* make(const QString&, QObject* object)
 {
@@ -52,6 +67,8 @@ QAccessibleInterface* make(const QString&, QObject* object)
         return new WindowAccessible(window);
     if (auto* dialog = qobject_cast<AbstractDialog*>(object))
         return new DialogAccessible(dialog);
+    if (auto* game = qobject_cast<TicTacToe*>(object))
+        return new EmbeddedAccessible(game);
     auto* widget = qobject_cast<QWidget*>(object);
     if (widget && qobject_cast<AbstractDialog*>(object->parent()))
         return new QAccessibleWidget(widget, QAccessible::Grouping); // its panel

@@ -594,8 +594,12 @@
         <translation>Grundton %1</translation>
     </message>
     <message>
-        <source>Step %1 of the scale, %2</source>
-        <translation>Schritt %1 der Skala, %2</translation>
+        <source>tritone</source>
+        <translation>Tritonus</translation>
+    </message>
+    <message>
+        <source>Semitone %1 above the tonic, %2</source>
+        <translation>Halbton %1 über dem Grundton, %2</translation>
     </message>
 </context>
 <context>

@@ -4,13 +4,21 @@
 #include "keys/TonicKeyItem.h"
 #include "keys/TonicScene.h"
 
+namespace {
+
+constexpr int tritone = 6;
+
+} // namespace
+
 SelectorControl::SelectorControl(TonicKeyItem& onKey) : StageControl(onKey), key(onKey) {}
 
 QString SelectorControl::name() const
 {
     const QString name = key.tableName();
-    return key.type == tonic_key_tonic ? tr("Tonic %1").arg(name)
-                                       : tr("Step %1 of the scale, %2").arg(key.index).arg(name);
+    if (key.type == tonic_key_tonic)
+        return tr("Tonic %1").arg(name);
+    const QString interval = key.index == tritone ? tr("tritone") : name; // its sign cannot be read aloud
+    return tr("Semitone %1 above the tonic, %2").arg(key.index).arg(interval);
 }
 
 QAccessible::Role SelectorControl::role() const

@@ -165,7 +165,7 @@ void TestAccessibleActions::pressChoosesATonicAndAStep()
     QCOMPARE(tonic().tonicModifier(), QStringLiteral("E"));
     QVERIFY(centre(QStringLiteral("Tonic E"))->state().checked);
     QVERIFY(!centre(QStringLiteral("Tonic C"))->state().checked);
-    QAccessibleInterface* step = centre(QStringLiteral("Step 2 of the scale, M2"));
+    QAccessibleInterface* step = centre(QStringLiteral("Semitone 2 above the tonic, M2"));
     QVERIFY(step->state().checked);
     press(step);
     QVERIFY(!step->state().checked);
@@ -222,12 +222,12 @@ void TestAccessibleActions::flagsShowTheirMenu()
 
 void TestAccessibleActions::focusGoesWhereItIsAsked()
 {
-    QAccessibleInterface* step = centre(QStringLiteral("Step 4 of the scale, M3"));
+    QAccessibleInterface* step = centre(QStringLiteral("Semitone 4 above the tonic, M3"));
     QVERIFY(step->state().focusable && !step->state().focused);
     act(step, QAccessibleActionInterface::setFocusAction());
     QVERIFY(step->state().focused);
     QVERIFY(window->ui.centerGraphicsView->hasFocus());
-    QCOMPARE(here(), QStringLiteral("Step 4 of the scale, M3"));
+    QCOMPARE(here(), QStringLiteral("Semitone 4 above the tonic, M3"));
     QVERIFY(ring().isVisible());
     act(in(QStringLiteral("Preset on F#4")), QAccessibleActionInterface::setFocusAction());
     QVERIFY(!step->state().focused);
@@ -297,7 +297,7 @@ void TestAccessibleActions::focusIsToldAsItMoves()
     QCOMPARE(lastOf(Qt::Key_Tab), QStringLiteral("MIDI I/O"));
     window->ui.scene1Button->setFocus();
     QCOMPARE(lastOf(Qt::Key_Tab), QStringLiteral("Game: row 1, column 1"));
-    QCOMPARE(lastOf(Qt::Key_Tab), QStringLiteral("Step 2 of the scale, M2")); // in the same view
+    QCOMPARE(lastOf(Qt::Key_Tab), QStringLiteral("Semitone 2 above the tonic, M2")); // in the same view
     QCOMPARE(lastOf(Qt::Key_Backtab), QStringLiteral("Game: row 1, column 1"));
     QVERIFY(centre(QStringLiteral("Game: row 1, column 1"))->state().focused);
     QCOMPARE(QAccessible::queryAccessibleInterface(window->ui.centerGraphicsView)->focusChild(),

@@ -27,6 +27,7 @@ private slots:
     void sleepingPartsAreNotOffered();
     void narrowWindowOffersWhatItShows();
     void objectUnderAPointIsFound();
+    void gameIsNoWindowOfItsOwn();
     void treeIsToldAnewForEachWindow();
 
 private:
@@ -257,6 +258,7 @@ void TestAccessibleTree::stageIsToldInTheOrderOfTheEye()
     QCOMPARE(namesIn(outView()).last(), QStringLiteral("C8 of the output"));
     QCOMPARE(namesIn(centre()).first(), QStringLiteral("Tonic C"));
     QCOMPARE(namesIn(centre()).last(), QStringLiteral("Preset sets the scale"));
+    QVERIFY(namesIn(centre()).contains(QStringLiteral("Semitone 6 above the tonic, tritone")));
     setTonic("D");
     QVERIFY(namesIn(inView()).contains(QStringLiteral("C4, white key, plays D4")));
 }
@@ -324,6 +326,17 @@ void TestAccessibleTree::objectUnderAPointIsFound()
     QCOMPARE(missed, QStringList("C#3, black key, switches the power")); // the button lies over it
     QVERIFY(!inView()->childAt(-5, -5));
     QVERIFY(!root()->childAt(-5, -5));
+}
+
+// Its cells are the view's.
+void TestAccessibleTree::gameIsNoWindowOfItsOwn()
+{
+    const QAccessibleInterface* program = QAccessible::queryAccessibleInterface(qApp);
+    QStringList shown;
+    for (int i = 0; i < program->childCount(); ++i)
+        if (!program->child(i)->state().invisible)
+            shown << nameOf(program->child(i));
+    QCOMPARE(shown, QStringList("Sorvane"));
 }
 
 void TestAccessibleTree::treeIsToldAnewForEachWindow()

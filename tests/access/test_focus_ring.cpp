@@ -3,6 +3,7 @@
 
 #include "AccessFixture.h"
 #include "screen/AbstractDialog.h"
+#include "tools/pictures/palette.h"
 
 #include <cmath>
 
@@ -13,10 +14,12 @@ class TestFocusRing : public AccessFixture
 private slots:
     void showsFromTheFirstKeyUntilTheMouse();
     void codeMovesTheFocusUnseen();
+    void focusThatIsTakenAwayWakesNothing();
     void followsWhatItEncloses();
     void enclosesTheFieldOfADialog();
     void pointerMeansWhatLiesBelow();
     void standsOutFromAnyGround();
+    void isOfTheInstrumentsColours();
 };
 
 namespace {
@@ -58,6 +61,19 @@ void TestFocusRing::codeMovesTheFocusUnseen()
     screen().inPortList->setFocus();
     type(Qt::Key_Down); // the row's own mark shows it
     QVERIFY(!ring().isVisible());
+}
+
+void TestFocusRing::focusThatIsTakenAwayWakesNothing()
+{
+    showScene(5, true);
+    categoryList().setFocus();
+    window->setPower(false);
+    QVERIFY(!categoryList().isVisible() && !categoryList().hasFocus());
+    QVERIFY(!ring().isAwake() && !ring().isVisible());
+    heard();
+    window->focusInKeyboard();
+    type(Qt::Key_Return);
+    QCOMPARE(heard(), QList<QList<int>>());
 }
 
 void TestFocusRing::followsWhatItEncloses()
@@ -112,6 +128,19 @@ void TestFocusRing::standsOutFromAnyGround()
             best = qMax(best, contrast(line, below));
         QVERIFY2(best >= 3, qPrintable(QStringLiteral("%1: %2").arg(ground).arg(best)));
     }
+}
+
+void TestFocusRing::isOfTheInstrumentsColours()
+{
+    type(Qt::Key_Tab);
+    const QImage picture = ring().grab().toImage();
+    const auto colourAt = [&](int x) {
+        return picture.pixelColor(x * qRound(picture.devicePixelRatio()), picture.height() / 2);
+    };
+    QCOMPARE(colourAt(0), palette::well);
+    QCOMPARE(colourAt(1), palette::blueLight);
+    QCOMPARE(colourAt(2), palette::blueLight);
+    QCOMPARE(colourAt(3), palette::well);
 }
 
 QTEST_MAIN(TestFocusRing)

@@ -63,12 +63,12 @@ void TestKeyboardStage::returnChoosesTheTonic()
 
 void TestKeyboardStage::returnTogglesAStepOfTheScale()
 {
-    QVERIFY(tabTo(QStringLiteral("Step 2 of the scale, M2")));
+    QVERIFY(tabTo(QStringLiteral("Semitone 2 above the tonic, M2")));
     type(Qt::Key_Return);
     QCOMPARE(scale().scaleModifier(), QStringLiteral("xoooxxoxoxox"));
     type(Qt::Key_Left);
     type(Qt::Key_Left); // the first key is the tonic, which is always on
-    QCOMPARE(here(), QStringLiteral("Step 1 of the scale, m2"));
+    QCOMPARE(here(), QStringLiteral("Semitone 1 above the tonic, m2"));
     type(Qt::Key_Return);
     QCOMPARE(scale().scaleModifier(), QStringLiteral("xxooxxoxoxox"));
 }
@@ -82,7 +82,7 @@ void TestKeyboardStage::switchesBelowTheRows()
     QVERIFY(!tonic().switchOn);
     type(Qt::Key_Return);
     QVERIFY(tonic().switchOn);
-    QVERIFY(tabTo(QStringLiteral("Step 2 of the scale, M2")));
+    QVERIFY(tabTo(QStringLiteral("Semitone 2 above the tonic, M2")));
     type(Qt::Key_Down);
     type(Qt::Key_End);
     QCOMPARE(here(), QStringLiteral("Preset sets the scale"));
@@ -198,13 +198,13 @@ void TestKeyboardStage::anchorStopsAtTheEndOfTheBar()
 
 void TestKeyboardStage::libraryOpensAndCloses()
 {
-    QVERIFY(tabTo(QStringLiteral("Step 2 of the scale, M2")));
+    QVERIFY(tabTo(QStringLiteral("Semitone 2 above the tonic, M2")));
     type(Qt::Key_Down);
     type(Qt::Key_Home);
     QCOMPARE(here(), QStringLiteral("Open the scale library (Ctrl+L)"));
     type(Qt::Key_Return);
     QVERIFY(screen().libraryOpen);
-    QVERIFY(tabTo(QStringLiteral("Step 2 of the scale, M2")));
+    QVERIFY(tabTo(QStringLiteral("Semitone 2 above the tonic, M2")));
     type(Qt::Key_Down);
     type(Qt::Key_Home);
     QCOMPARE(here(), QStringLiteral("Close the scale library (Ctrl+L)"));

@@ -61,7 +61,7 @@ void TestTabOrder::tabFollowsTheEye()
     QStringList round{QStringLiteral("C4 of the output")};
     round << (powered ? QStringList("Tonic C") : QStringList()) << middle << game;
     if (powered)
-        round << QStringLiteral("Step 2 of the scale, M2");
+        round << QStringLiteral("Semitone 2 above the tonic, M2");
     round << QStringLiteral("C4, white key, plays C4");
     window->ui.inKeyboardGraphicsView->setFocus();
     for (int lap = 0; lap < 2; ++lap)
@@ -104,7 +104,7 @@ void TestTabOrder::whatHasTheFocusIsSeen()
 void TestTabOrder::tabLeavesWhatGoesAwayUnderIt()
 {
     showScene(1, true);
-    QVERIFY(tabTo(QStringLiteral("Step 2 of the scale, M2")));
+    QVERIFY(tabTo(QStringLiteral("Semitone 2 above the tonic, M2")));
     type(Qt::Key_Space);
     QVERIFY(!window->isPowerOn());
     QVERIFY(!ring().isVisible() || walk().current());
@@ -112,7 +112,7 @@ void TestTabOrder::tabLeavesWhatGoesAwayUnderIt()
     QVERIFY(ring().isVisible());
     for (int i = 0; i < 12; ++i) {
         type(Qt::Key_Tab);
-        QVERIFY(!here().startsWith(QLatin1String("Step")));
+        QVERIFY(!here().startsWith(QLatin1String("Semitone")));
     }
 }
 

@@ -78,6 +78,16 @@ bool XServer::key(const QString& name)
     return xdotool({QStringLiteral("key"), name});
 }
 
+bool XServer::holdKey(const QString& name)
+{
+    return xdotool({QStringLiteral("keydown"), name});
+}
+
+bool XServer::letKeyUp(const QString& name)
+{
+    return xdotool({QStringLiteral("keyup"), name});
+}
+
 bool XServer::move(QPoint pos)
 {
     return xdotool(jumpTo(pos));
@@ -100,4 +110,10 @@ bool XServer::bringToOrigin(const QString& title)
                                 QStringLiteral("windowmove"), QStringLiteral("0"),
                                 QStringLiteral("0")};
     return QTest::qWaitFor([&] { return xdotool(arguments, QProcess::MergedChannels); }, 10000);
+}
+
+bool XServer::giveKeyboard(const QString& title)
+{
+    return xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
+                    title, QStringLiteral("windowfocus"), QStringLiteral("--sync")});
 }

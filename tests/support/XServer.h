@@ -24,6 +24,9 @@ public:
     /// Press at the first point, move over the others, release at the last.
     static bool drag(const QList<QPoint>& points);
     static bool key(const QString& name);
+    /// A key that stays down, until it is let up.
+    static bool holdKey(const QString& name);
+    static bool letKeyUp(const QString& name);
     /// The parts of a gesture. Once they return, the server has passed the event on.
     static bool move(QPoint pos);
     static bool press(int button = 1);
@@ -31,6 +34,8 @@ public:
 
     /// Brings the window of that title to the origin, which a larger screen calls for. Waits for the window.
     static bool bringToOrigin(const QString& title);
+    /// Gives the keyboard to the window of that title, as a window manager does.
+    static bool giveKeyboard(const QString& title);
 
 private:
     const QSize size;
