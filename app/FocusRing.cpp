@@ -41,10 +41,8 @@ void FocusRing::enclose(const QRect& place)
         hide();
         return;
     }
-    if (outer == geometry() && isVisible())
-        return;
     setGeometry(outer);
-    raise();
+    raise(); // a dialog may have come up since
     show();
 }
 

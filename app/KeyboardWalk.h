@@ -56,6 +56,9 @@ private:
     void specialKey(int key);
     void release();
     void drop(StageControl* at);
+
+    // Keys (KeyboardWalk_keys.cpp)
+    [[nodiscard]] static bool isReturn(int key);
     [[nodiscard]] bool takeKey(const QKeyEvent& event);
     [[nodiscard]] bool command(const QKeyEvent& event);
     [[nodiscard]] bool arrow(int key);

@@ -97,11 +97,11 @@
     <name>CommandLine</name>
     <message>
         <source>Print this help and end.</source>
-        <translation>Diese Hilfe ausgeben und enden.</translation>
+        <translation>Diese Hilfe ausgeben und beenden.</translation>
     </message>
     <message>
         <source>Print the version and end.</source>
-        <translation>Die Version ausgeben und enden.</translation>
+        <translation>Die Version ausgeben und beenden.</translation>
     </message>
     <message>
         <source>Run without a window.</source>
@@ -109,11 +109,11 @@
     </message>
     <message>
         <source>Set the power at start: on or off.</source>
-        <translation>Power beim Start: on oder off.</translation>
+        <translation>Beim Start ein- oder ausschalten: on oder off.</translation>
     </message>
     <message>
         <source>Set the tonic at start: C, C#, D, ... B.</source>
-        <translation>Grundton beim Start: C, C#, D, ... B.</translation>
+        <translation>Grundton beim Start: C, C#, D, ... B (deutsch H).</translation>
     </message>
     <message>
         <source>Set the scale at start: twelve letters, x for a note of the scale and o for none, the tonic first.</source>
@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>Print the MIDI ports of both directions and end.</source>
-        <translation>Die MIDI-Ports beider Richtungen ausgeben und enden.</translation>
+        <translation>Die MIDI-Ports beider Richtungen ausgeben und beenden.</translation>
     </message>
     <message>
         <source>Use this MIDI back end: alsa or jack (also: SORVANE_MIDI_API).</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>--tonic takes one of %1, not &quot;%2&quot;.</source>
-        <translation>--tonic nimmt eins von %1, nicht „%2“.</translation>
+        <translation>--tonic nimmt einen Namen aus %1, nicht „%2“.</translation>
     </message>
     <message>
         <source>--scale takes twelve letters, x or o, the first one x, not &quot;%1&quot;.</source>
@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>switches the power</source>
-        <translation>schaltet Power</translation>
+        <translation>schaltet ein und aus</translation>
     </message>
     <message>
         <source>recalls its preset</source>

@@ -15,16 +15,18 @@ namespace {
 class CollatedOrder
 {
 public:
-    CollatedOrder()
-    {
-        // The C locale has no collation and would put "10" before "2".
-        if (QLocale().language() == QLocale::C)
-            collator.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
-        collator.setNumericMode(true);
-    }
+    CollatedOrder() : collator(collation()) { collator.setNumericMode(true); }
     bool operator()(const QString& a, const QString& b) const { return collator.compare(a, b) < 0; }
 
 private:
+    // Without an argument a collator would take the environment's own order, which may be another language's
+    // or none. The C locale has none, and would put "10" before "2".
+    static QLocale collation()
+    {
+        const QLocale chosen;
+        return chosen.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedStates) : chosen;
+    }
+
     QCollator collator;
 };
 

@@ -17,6 +17,7 @@ private slots:
     void focusThatIsTakenAwayWakesNothing();
     void followsWhatItEncloses();
     void enclosesTheFieldOfADialog();
+    void liesOverADialogThatCameUp();
     void pointerMeansWhatLiesBelow();
     void standsOutFromAnyGround();
     void isOfTheInstrumentsColours();
@@ -101,6 +102,22 @@ void TestFocusRing::enclosesTheFieldOfADialog()
         }
     });
     window->setPower(true);
+    screen().appendScale(1);
+    QCOMPARE(seen, 1);
+}
+
+// The dialog is raised behind the focus that it takes.
+void TestFocusRing::liesOverADialogThatCameUp()
+{
+    window->setPower(true);
+    type(Qt::Key_Tab);
+    whenOpen<AbstractDialog>([this](AbstractDialog&) {
+        const auto uppermost = [this] {
+            return window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).last();
+        };
+        QTRY_COMPARE(uppermost(), static_cast<QWidget*>(&ring()));
+        QVERIFY(ring().isVisible());
+    });
     screen().appendScale(1);
     QCOMPARE(seen, 1);
 }

@@ -17,6 +17,7 @@ private slots:
     void initTestCase();
     void cleanup();
     void ringGoesWithTabAndReturnPlays();
+    void heldReturnSoundsOnce();
 
 private:
     using Messages = StageRun::Messages;
@@ -87,6 +88,22 @@ void EndToEndKeyboard::ringGoesWithTabAndReturnPlays()
     QCOMPARE(run.heard(2), (Messages{{0x90, middleC + 1, 75}, {0x80, middleC + 1, 0}}));
     QVERIFY(XServer::click(QPoint(940, 150))); // the mouse is used
     QTRY_VERIFY(ring().isEmpty());
+}
+
+// The server repeats a held key as releases and presses, which once ended and began the note each time.
+void EndToEndKeyboard::heldReturnSoundsOnce()
+{
+    constexpr int middleC = 60, severalRepeatsMs = 1200; // the first one comes after 660
+    QVERIFY(run.start({QStringLiteral("--power"), QStringLiteral("off")}));
+    QVERIFY(XServer::giveKeyboard(QStringLiteral("^Sorvane$")));
+    QVERIFY(XServer::key(QStringLiteral("Left")));
+    QVERIFY(XServer::holdKey(QStringLiteral("Return")));
+    QCOMPARE(run.heard(1), (Messages{{0x90, middleC, 75}}));
+    QTest::qWait(severalRepeatsMs);
+    QVERIFY(XServer::letKeyUp(QStringLiteral("Return")));
+    QVERIFY(XServer::key(QStringLiteral("Right")));
+    QVERIFY(XServer::key(QStringLiteral("Return")));
+    QCOMPARE(run.heard(3), (Messages{{0x80, middleC, 0}, {0x90, middleC + 1, 75}, {0x80, middleC + 1, 0}}));
 }
 
 int main(int argc, char** argv)

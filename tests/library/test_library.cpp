@@ -40,6 +40,7 @@ private slots:
     void removedCategoryKeepsItsRecords();
     void removeScalesWithCategoryDeletesRecordsAndKeepsWords();
     void unknownCurrentCategoryIsNone();
+    void categoriesFollowTheLanguageNotTheEnvironment();
 
     // Words
     void scaleIndexEqualToTheCountIsNone();
@@ -179,6 +180,20 @@ void TestLibrary::unknownCurrentCategoryIsNone()
     QCOMPARE(library.currentCagetoryIndex(), -1);
     library.setCurrentCategoryIndex(9);
     QCOMPARE(library.currentCategory(), user);
+}
+
+// The environment of the tests has no collation; a user's may have another language's than the window.
+void TestLibrary::categoriesFollowTheLanguageNotTheEnvironment()
+{
+    const QLocale before;
+    for (const QLocale::Language language : {QLocale::German, QLocale::English, QLocale::C}) {
+        QLocale::setDefault(QLocale(language));
+        QVector<QString> names{QStringLiteral("10 - a"), QStringLiteral("9 - b"), QStringLiteral("1 - c")};
+        DatabaseLibrary::sortStringVector(names);
+        QCOMPARE(names, (QVector<QString>{QStringLiteral("1 - c"), QStringLiteral("9 - b"),
+                                          QStringLiteral("10 - a")}));
+    }
+    QLocale::setDefault(before);
 }
 
 void TestLibrary::scaleIndexEqualToTheCountIsNone()
