@@ -107,7 +107,17 @@ StageControl* KeyboardWalk::current() const
         return nullptr;
     const StageStop& place = stops.all()[static_cast<std::size_t>(at)];
     StageControl* last = remembered[static_cast<std::size_t>(at)];
-    return stops.isReachable(place, last) ? last : arrival(place);
+    return stops.isReachable(place, last) ? last : instead(place, last);
+}
+
+// What was left may have gone since, as a flag with the power, or an anchor beyond the window's edge.
+StageControl* KeyboardWalk::instead(const StageStop& at, const StageControl* gone) const
+{
+    for (const StageStop::Row& row : at.rows)
+        if (gone && std::find(row.begin(), row.end(), gone) != row.end())
+            if (StageControl* found = stops.nearest(at, row, *gone))
+                return found;
+    return arrival(at);
 }
 
 void KeyboardWalk::setCurrent(StageControl* control)

@@ -51,6 +51,7 @@ private:
     [[nodiscard]] const StageStop& stopHere() const;
     void arriveAt(int to, Qt::FocusReason reason);
     [[nodiscard]] StageControl* arrival(const StageStop& at) const;
+    [[nodiscard]] StageControl* instead(const StageStop& at, const StageControl* gone) const;
     void setCurrent(StageControl* control);
 
     void specialKey(int key);

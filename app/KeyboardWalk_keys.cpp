@@ -9,7 +9,6 @@
 #include <QKeyEvent>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace {
 
@@ -108,20 +107,11 @@ void KeyboardWalk::moveToRow(int step)
 {
     StageControl* from = current();
     const StageStop& place = stopHere();
-    const int x = stops.placeOf(place, from).center().x();
-    const auto distance = [&](const StageControl* control) {
-        return std::abs(stops.placeOf(place, control).center().x() - x);
-    };
     const auto begin = std::find_if(place.rows.begin(), place.rows.end(), [&](const StageStop::Row& row) {
         return std::find(row.begin(), row.end(), from) != row.end();
     });
     const int rows = static_cast<int>(place.rows.size());
-    for (int i = static_cast<int>(begin - place.rows.begin()) + step; i >= 0 && i < rows; i += step) {
-        StageControl* nearest = nullptr;
-        for (StageControl* control : place.rows[static_cast<std::size_t>(i)])
-            if (stops.isReachable(place, control) && (!nearest || distance(control) < distance(nearest)))
-                nearest = control;
-        if (nearest)
-            return setCurrent(nearest);
-    }
+    for (int i = static_cast<int>(begin - place.rows.begin()) + step; i >= 0 && i < rows; i += step)
+        if (StageControl* found = stops.nearest(place, place.rows[static_cast<std::size_t>(i)], *from))
+            return setCurrent(found);
 }

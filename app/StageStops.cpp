@@ -23,6 +23,7 @@
 #include <QGraphicsProxyWidget>
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace {
@@ -201,6 +202,19 @@ StageStop::Row StageStops::reachable(const StageStop& stop, const StageStop::Row
     for (const auto& each : found)
         sorted.push_back(each.second);
     return sorted;
+}
+
+StageControl* StageStops::nearest(const StageStop& stop, const StageStop::Row& row,
+                                  const StageControl& to) const
+{
+    const int x = placeOf(stop, &to).center().x();
+    const auto distance = [&](const StageControl* control) {
+        return std::abs(placeOf(stop, control).center().x() - x);
+    };
+    const StageStop::Row all = reachable(stop, row);
+    const auto found =
+        std::min_element(all.begin(), all.end(), [&](auto* a, auto* b) { return distance(a) < distance(b); });
+    return found != all.end() ? *found : nullptr;
 }
 
 QRect StageStops::placeOf(const StageStop& stop, const StageControl* control) const

@@ -36,6 +36,9 @@ public:
     [[nodiscard]] bool isReachable(const StageStop& stop, const StageControl* control) const;
     /// What can be reached of a row of the stop, from left to right.
     [[nodiscard]] StageStop::Row reachable(const StageStop& stop, const StageStop::Row& row) const;
+    /// The one of them that is nearest to another control, which need not show; null if there is none.
+    [[nodiscard]] StageControl* nearest(const StageStop& stop, const StageStop::Row& row,
+                                        const StageControl& to) const;
     /// Where it is seen, in the window.
     [[nodiscard]] QRect placeOf(const StageStop& stop, const StageControl* control) const;
 

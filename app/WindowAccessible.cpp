@@ -3,6 +3,10 @@
 #include "app/KeyboardWalk.h"
 #include "app/MainWnd.h"
 #include "screen/AbstractDialog.h"
+#include "screen/CenterScreen.h"
+#include "screen/DescriptionEditor.h"
+#include "screen/LibraryView.h"
+#include "screen/ScaleListWidget.h"
 
 WindowAccessible::WindowAccessible(MainWnd* window) : QAccessibleWidget(window, QAccessible::Window) {}
 
@@ -22,6 +26,9 @@ QWidgetList WindowAccessible::parts() const
     for (const StageStop& stop : stops.all())
         if (stops.isReachable(stop) && !found.contains(stop.widget))
             found.append(stop.widget);
+    const LibraryView* library = window->centerScreen->libraryView();
+    if (library->description->isVisible()) // no stop, but to be read
+        found.insert(found.indexOf(library->scales) + 1, library->description);
     return found;
 }
 

@@ -4,8 +4,8 @@
 
 class MainWnd;
 
-/// The window for assistive technology: what can be reached in it, in the order of Tab; while a dialog is
-/// open, that alone.
+/// The window for assistive technology: what can be reached in it, in the order of Tab, and the page of the
+/// scale; while a dialog is open, that alone.
 class WindowAccessible : public QAccessibleWidget
 {
 public:

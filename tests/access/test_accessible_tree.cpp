@@ -27,6 +27,7 @@ private slots:
     void sleepingPartsAreNotOffered();
     void narrowWindowOffersWhatItShows();
     void objectUnderAPointIsFound();
+    void pageOfTheScaleIsRead();
     void gameIsNoWindowOfItsOwn();
     void treeIsToldAnewForEachWindow();
 
@@ -130,7 +131,7 @@ void TestAccessibleTree::addScenes()
     const QStringList left{"MIDI I/O", "info & credits", "visit website"};
     const QStringList right{"documentation", "@Facebook", "@YouTube"};
     const QStringList ports{"MIDI input ports", "MIDI output ports"};
-    const QStringList library{"Scale categories", "Scales of the category"};
+    const QStringList library{"Scale categories", "Scales of the category", "Description of the scale"};
     struct Scene
     {
         const char* name;
@@ -231,6 +232,8 @@ void TestAccessibleTree::dialogsHideWhatLiesBelow()
         QCOMPARE(root()->childCount(), 1);
         QCOMPARE(root()->child(0)->role(), QAccessible::Dialog);
         QCOMPARE(nameOf(root()->child(0)), name);
+        QCOMPARE(root()->child(0)->childCount(), 1);
+        QCOMPARE(root()->child(0)->child(0)->role(), QAccessible::Grouping);
         int found = 0;
         QCOMPARE(faultsIn(root()->child(0), found).join(QLatin1Char('\n')), QString());
         QVERIFY2(found >= usable, qPrintable(QString::number(found)));
@@ -326,6 +329,18 @@ void TestAccessibleTree::objectUnderAPointIsFound()
     QCOMPARE(missed, QStringList("C#3, black key, switches the power")); // the button lies over it
     QVERIFY(!inView()->childAt(-5, -5));
     QVERIFY(!root()->childAt(-5, -5));
+}
+
+void TestAccessibleTree::pageOfTheScaleIsRead()
+{
+    showScene(5, true);
+    QAccessibleInterface* page = of(view().description);
+    QCOMPARE(page->parent(), root());
+    QVERIFY(page->textInterface());
+    const QString text = page->textInterface()->text(0, page->textInterface()->characterCount());
+    QVERIFY2(text.startsWith(QLatin1String("Ionian")), qPrintable(text));
+    const QPoint middle = page->rect().center();
+    QCOMPARE(root()->childAt(middle.x(), middle.y()), page);
 }
 
 // Its cells are the view's.

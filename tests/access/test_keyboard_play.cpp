@@ -121,6 +121,8 @@ void TestKeyboardPlay::whatTakesTheHandAwayEndsTheNote()
 
 void TestKeyboardPlay::nothingIsPressedUnseen()
 {
+    type(Qt::Key_Left);
+    type(Qt::Key_Right);
     QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(940, 150));
     QVERIFY(window->ui.inKeyboardGraphicsView->hasFocus());
     QVERIFY(!ring().isVisible());
