@@ -69,24 +69,7 @@ start_screen() {
 }
 
 start_midi() {
-    cat >"$scratch/pipewire.conf" <<'CONF'
-context.properties = { core.daemon = true core.name = pipewire-0 default.clock.rate = 48000 default.clock.quantum = 256 }
-context.spa-libs = { support.* = support/libspa-support }
-context.modules = [
-    { name = libpipewire-module-protocol-native }
-    { name = libpipewire-module-spa-node-factory }
-    { name = libpipewire-module-client-node }
-    { name = libpipewire-module-access args = {} }
-    { name = libpipewire-module-adapter }
-    { name = libpipewire-module-metadata }
-    { name = libpipewire-module-link-factory }
-]
-context.objects = [
-    { factory = spa-node-factory
-      args = { factory.name = support.node.driver node.name = Dummy-Driver node.group = pipewire.dummy
-               priority.driver = 20000 } }
-]
-CONF
+    sed 's/default.clock.rate = 48000/& default.clock.quantum = 256/' tests/package/pipewire.conf >"$scratch/pipewire.conf"
     start midi pipewire -c "$scratch/pipewire.conf"
     await "PipeWire daemon" pw-link -io
 }
